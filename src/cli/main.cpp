@@ -1,0 +1,30 @@
+// falak: the command line of the reckoning.
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/Kalkulator.h"
+
+namespace {
+
+const char* const kBantuan =
+    "falak: hisab ilmu falak menurut kitab-kitab pesantren\n"
+    "\n"
+    "Pemakaian:\n"
+    "  falak nilai OPERASI...          kalkulator nilai (mis. 'tambah;3;3;1;00 10 00 00 00 1;00 20 00 00 00 1')\n"
+    "  falak nilai --batch             operasi satu per baris dari masukan baku\n";
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::vector<std::string> argumen(argv + 1, argv + argc);
+    if (argumen.empty() || argumen[0] == "--help" || argumen[0] == "-h" || argumen[0] == "bantuan") {
+        std::cout << kBantuan;
+        return argumen.empty() ? 2 : 0;
+    }
+    const std::string perintah = argumen[0];
+    argumen.erase(argumen.begin());
+    if (perintah == "nilai") return falak::cli::perintahNilai(argumen, std::cin, std::cout, std::cerr);
+    std::cerr << "falak: perintah \"" << perintah << "\" tidak dikenal\n\n" << kBantuan;
+    return 2;
+}
