@@ -13,6 +13,14 @@ const Nilai Kosong("Kosong");
 namespace {
 
 int32_t bacaMedan(std::string_view medan) {
+    // Most fields are short runs of digits: read them directly.
+    const bool negatif = !medan.empty() && medan.front() == '-';
+    const std::string_view digit = negatif ? medan.substr(1) : medan;
+    if (!digit.empty() && digit.size() <= 9 && digit.find_first_not_of("0123456789") == std::string_view::npos) {
+        int32_t v = 0;
+        for (char c : digit) v = v * 10 + (c - '0');
+        return negatif ? -v : v;
+    }
     if (!AdalahAngka(medan)) return 0;
     return BulatGenap32(ValAngka(medan)).value_or(0);
 }

@@ -1,0 +1,18 @@
+#!/bin/sh
+# Installs with apt-get what a fresh Debian machine lacks to build and test falak.
+set -eu
+
+PAKET="build-essential cmake pkg-config googletest libgtest-dev libbenchmark-dev"
+
+kurang=""
+for p in $PAKET; do
+  dpkg -s "$p" >/dev/null 2>&1 || kurang="$kurang $p"
+done
+[ -z "$kurang" ] && exit 0
+
+if [ "$(id -u)" -eq 0 ]; then SUDO=""; else SUDO="sudo"; fi
+echo "Memasang:$kurang"
+export DEBIAN_FRONTEND=noninteractive
+$SUDO apt-get update -qq
+# shellcheck disable=SC2086
+$SUDO apt-get install -y -qq --no-install-recommends $kurang
