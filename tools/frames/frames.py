@@ -1,0 +1,147 @@
+#!/usr/bin/env python3
+"""Writes the tables of the program's own texts: data/Names.csv (the frames of the worked
+sheets), data/ListTxt.csv (the labels of the conclusion lines) and data/Nodes.csv (the tree of
+treatises).
+
+Each treatise X in Names has four columns NamaX, BarisX, Kolom1X, Kolom2X: a label text, its row and
+the first and last column it spans. The value cells themselves are written by the reckoning;
+the frame places the labels around them as the book lays out its table, reading from right
+to left: row labels in the highest columns, the fields of a value running leftwards.
+
+Run: python3 tools/frames/frames.py
+"""
+import csv
+import os
+
+# Headings of the fields of an arc value and of an alamah value, in Arabic as the book has them.
+BURUJ, DARAJAH, DAQIQAH, TSANIYAH, TSALITSAH = "برج", "درجة", "دقيقة", "ثانية", "ثالثة"
+YAUM, SAAH = "يوم", "ساعة"
+
+
+def sullam():
+    """Sullam al-Nairoin: a grid of 40 by 40; values written by the run at the columns below."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    # Top block: the sums of years and months. Alamah at 37-33, then Hishshoh, Khossyoh,
+    # Markaz and the auj, three fields each, six columns apart.
+    kelompok = [("العلامة", 33, 37), ("الحصة", 27, 31), ("الخاصة", 21, 25), ("المركز", 15, 19), ("الأوج", 9, 13)]
+    for teks, k1, k2 in kelompok:
+        label(teks, 1, k1, k2)
+    for kol, teks in [(37, YAUM), (35, SAAH), (33, DAQIQAH)]:
+        label(teks, 2, kol)
+    for awal in (31, 25, 19, 13):
+        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH)):
+            label(teks, 2, awal - 2 * i)
+    label("السنين", 2, 39)
+    label("المجموعة", 3, 38)
+    label("المبسوطة", 4, 38)
+    label("الشهر", 5, 38)
+    label("الجملة", 6, 38, 39)
+
+    # Field headings over the three lower blocks.
+    for awal in (37, 19, 9):
+        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH, TSANIYAH, TSALITSAH)):
+            label(teks, 7, awal - 2 * i)
+
+    # Right block: the moon's correction, the sun's place, the hours, the ijtima', the hilal.
+    kanan = {
+        8: "تعديل الخاصة", 9: "تعديل المركز", 10: "المجموع", 11: "الضابط", 12: "الحاصل",
+        13: "تعديل المركز", 14: "تعديل القمر",
+        15: "المركز", 16: "الأوج", 17: "وسط الشمس", 18: "تعديل القمر", 19: "تقويم الشمس",
+        20: "تعديل القمر", 21: "دقائق تعديل الأيام", 22: "الباقي", 23: "حصة الساعة", 24: "ساعات البعد",
+        25: "العلامة", 26: "ساعات البعد", 27: "الاجتماع بالمركز", 28: "فضل الطولين", 29: "الاجتماع ببلد",
+        30: "الغروب", 31: "الاجتماع ببلد", 32: "ما بين الاجتماع والغروب", 33: "الضابط",
+        34: "ارتفاع الهلال", 35: "الضابط", 36: "مكث الهلال",
+        37: "عرض القمر", 38: "نور الهلال",
+    }
+    for baris, teks in kanan.items():
+        label(teks, baris, 38)
+    # Middle and left blocks: five-line worked look-ups of the tables.
+    lima = ["المدخل", "السطر", "السطر التالي", "الفضل", "المعدل"]
+    blok = [(8, "تعديل الخاصة", 11, 19, 20, 27), (8, "تعديل المركز", 1, 9, 10, 10),
+            (16, "حصة الساعة", 11, 19, 20, 27), (16, "دقائق تعديل الأيام", 1, 9, 10, 10),
+            (24, "عرض القمر", 11, 19, 20, 27), (24, "المنزلة", 1, 9, 10, 10)]
+    for baris, judul, k1, k2, l1, l2 in blok:
+        label(judul, baris, k1, k2)
+        for i, teks in enumerate(lima):
+            label(teks, baris + 1 + i, l1, l2)
+    return f
+
+
+# The labels of the conclusion lines, read by position (the line writers name the position).
+LABEL = [
+    "Awal bulan sesudah ",        # 0  first of the month, after the chosen month's name
+    "Ijtima' : ",                 # 1  the day of the ijtima'
+    "Jam ijtima' : ",             # 2
+    "Posisi matahari terbenam : ",  # 3  the sun's declination at sunset, as a side of west
+    "Azimut matahari : ",         # 4
+    "Keadaan hilal : ",           # 5
+    "Posisi hilal : ",            # 6
+    "Tinggi hilal : ",            # 7
+    "Lama hilal : ",              # 8
+    "Nurul hilal : ",             # 9
+    "Azimut hilal : ",            # 10
+    "Jarak matahari dan hilal : ",  # 11
+    "Matahari terbenam : ",       # 12
+    "Matahari terbit : ",         # 13
+    "Markaz : ",                  # 14
+    "Tempat : ",                  # 15
+    "Gerhana terjadi pada : ",    # 16
+    "Awal gerhana : ",            # 17
+    "Tengah gerhana : ",          # 18
+    "Akhir gerhana : ",           # 19
+    "Lama gerhana : ",            # 20
+    "Awal total : ",              # 21
+    "Akhir total : ",             # 22
+    "Lama total : ",              # 23
+    "Besar gerhana : ",           # 24
+    "Warna gerhana : ",           # 25
+]
+
+# The tree of treatises: a group row (no kind of work) opens a group, the rows after it are
+# its treatises. CodeGarapan is the kind of work ("Ij" the ijtima' and hilal), CodeKitab the
+# treatise's code or the group's key.
+NODES = [
+    ("Hisab Taqribi", "", "Taqribi"),
+    ("Sullam al-Nairoin", "Ij", "SN"),
+    ("Fathu al-Ro'uf al-Mannan", "Ij", "FR"),
+    ("Ittifaq Dzatu al-Bain (Taqribi)", "Ij", "IDB1"),
+    ("Syamsu al-Hilal", "Ij", "SH"),
+    ("Tadzkirotu al-Ikhwan", "Ij", "TZ"),
+    ("Khulashotu al-Wafiyah (Taqribi)", "Ij", "KW1"),
+    ("Faidlu al-Karim", "Ij", "FK"),
+    ("Hisab Tahqiqi", "", "Tahqiqi"),
+    ("Badi'atu al-Mitsal", "Ij", "BM"),
+    ("Nuru al-Anwar", "Ij", "NA"),
+    ("Ephemeris", "Ij", "ER"),
+]
+
+
+def tulis(nama, kepala, baris):
+    keluar = os.path.join(os.path.dirname(__file__), "..", "..", "data", nama)
+    with open(keluar, "w", newline="", encoding="utf-8") as fh:
+        w = csv.writer(fh, lineterminator="\n")
+        w.writerow(kepala)
+        w.writerows(baris)
+
+
+def main():
+    frames = {"SN": sullam()}
+    panjang = max(len(v) for v in frames.values())
+    kolom = [f"{nama}{x}" for x in frames for nama in ("Nama", "Baris", "Kolom1", "Kolom2")]
+    baris = []
+    for i in range(panjang):
+        b = []
+        for f in frames.values():
+            b += list(f[i]) if i < len(f) else ["", "", "", ""]
+        baris.append(b)
+    tulis("Names.csv", kolom, baris)
+    tulis("ListTxt.csv", ["IsiText"], [[t] for t in LABEL])
+    tulis("Nodes.csv", ["Text", "CodeGarapan", "CodeKitab"], NODES)
+
+
+if __name__ == "__main__":
+    main()
