@@ -69,6 +69,15 @@ const fs::path& folderSintetis() {
     return folder;
 }
 
+// The temporary folders go when the benchmark ends.
+struct Bersihkan {
+    ~Bersihkan() {
+        std::error_code ec;
+        fs::remove_all(fs::temp_directory_path() / "falak-bench-data", ec);
+        fs::remove_all(fs::temp_directory_path() / "falak-bench-pengguna", ec);
+    }
+} bersihkan;
+
 void muat(benchmark::State& state, const fs::path& data) {
     const fs::path pengguna = fs::temp_directory_path() / "falak-bench-pengguna";
     size_t baris = 0;

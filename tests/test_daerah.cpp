@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <sys/resource.h>
+#include <unistd.h>
 
 #include <csignal>
 #include <cstdlib>
@@ -26,11 +27,13 @@ struct Folder {
     fs::path akar;
     LokasiData lokasi;
     explicit Folder(const std::string& nama) {
-        akar = fs::path(testing::TempDir()) / ("falak-" + nama);
+        // One folder per process: test runs may go side by side.
+        akar = fs::path(testing::TempDir()) / ("falak-" + nama + "-" + std::to_string(getpid()));
         fs::remove_all(akar);
         lokasi = {akar / "data", akar / "pengguna"};
         fs::create_directories(lokasi.data);
     }
+    ~Folder() { fs::remove_all(akar); }
     void tulis(const fs::path& berkas, std::string_view isi) const {
         fs::create_directories(berkas.parent_path());
         std::ofstream(berkas, std::ios::binary) << isi;

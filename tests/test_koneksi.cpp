@@ -6,13 +6,15 @@
 #include <filesystem>
 #include <fstream>
 
+#include <unistd.h>
+
 #include "core/Koneksi.h"
 
 using namespace falak;
 namespace fs = std::filesystem;
 
 TEST(ClsConnection, OpensWhatItCanAndTellsWhatItCannot) {
-    const fs::path akar = fs::path(testing::TempDir()) / "falak-koneksi";
+    const fs::path akar = fs::path(testing::TempDir()) / ("falak-koneksi-" + std::to_string(getpid()));
     fs::remove_all(akar);
     const LokasiData lokasi{akar / "data", akar / "pengguna"};
     fs::create_directories(lokasi.data);
@@ -54,6 +56,7 @@ TEST(ClsConnection, OpensWhatItCanAndTellsWhatItCannot) {
     EXPECT_EQ(k.WriteToFile(k.Daerah), "");
     std::ifstream in(lokasi.pengguna / "Daerah.csv");
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), "BaladIN,ZonaTime\n");
+    fs::remove_all(akar);
 }
 
 TEST(FolderData, TheEnvironmentVariableComesFirst) {

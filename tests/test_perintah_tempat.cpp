@@ -5,6 +5,8 @@
 #include <fstream>
 #include <sstream>
 
+#include <unistd.h>
+
 #include "cli/PerintahTempat.h"
 
 using namespace falak;
@@ -13,11 +15,12 @@ namespace fs = std::filesystem;
 namespace {
 
 struct Cli {
+    fs::path akar;
     LokasiData lokasi;
     std::string keluar, galat;
 
     explicit Cli(const std::string& nama) {
-        const fs::path akar = fs::path(testing::TempDir()) / ("falak-cli-" + nama);
+        akar = fs::path(testing::TempDir()) / ("falak-cli-" + nama + "-" + std::to_string(getpid()));
         fs::remove_all(akar);
         lokasi = {akar / "data", akar / "pengguna"};
         fs::create_directories(lokasi.data);
@@ -25,6 +28,7 @@ struct Cli {
             << "BaladIN,BaladAR,DarojatArdlu,DaqiqohArdlu,ArahArdlu,DarojatThul,DaqiqohThul,ArahThul,ZonaTime,"
                "Ketinggian\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n";
     }
+    ~Cli() { fs::remove_all(akar); }
     int jalan(std::vector<std::string> argumen) {
         std::ostringstream out, err;
         const int status = cli::perintahTempat(argumen, lokasi, out, err);

@@ -5,6 +5,8 @@
 #include <filesystem>
 #include <fstream>
 
+#include <unistd.h>
+
 #include "core/Berkas.h"
 #include "core/Tabel.h"
 
@@ -129,7 +131,8 @@ TEST(CariTabel, MovedTableStillFindsItsRows) {
 }
 
 TEST(TulisAtomik, ReplacesTheFileWholeAndLeavesNoTemporaryFile) {
-    const auto folder = std::filesystem::path(testing::TempDir()) / "falak-atomik" / "dalam";
+    const auto folder =
+        std::filesystem::path(testing::TempDir()) / ("falak-atomik-" + std::to_string(getpid())) / "dalam";
     std::filesystem::remove_all(folder.parent_path());
     const auto berkas = folder / "Daerah.csv";
     EXPECT_EQ(TulisAtomik(berkas, "satu\n"), "");  // the folder is made
@@ -138,4 +141,5 @@ TEST(TulisAtomik, ReplacesTheFileWholeAndLeavesNoTemporaryFile) {
     EXPECT_EQ(BacaBerkas(berkas, isi), "");
     EXPECT_EQ(isi, "dua\n");
     EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), std::filesystem::directory_iterator()), 1);
+    std::filesystem::remove_all(folder.parent_path());
 }
