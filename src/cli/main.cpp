@@ -4,15 +4,17 @@
 #include <vector>
 
 #include "cli/Kalkulator.h"
+#include "cli/PerintahTempat.h"
 
 namespace {
 
-const char* const kBantuan =
-    "falak: hisab ilmu falak menurut kitab-kitab pesantren\n"
-    "\n"
-    "Pemakaian:\n"
-    "  falak nilai OPERASI...          kalkulator nilai (mis. 'tambah;3;3;1;00 10 00 00 00 1;00 20 00 00 00 1')\n"
-    "  falak nilai --batch             operasi satu per baris dari masukan baku\n";
+const std::string kBantuan =
+    std::string("falak: hisab ilmu falak menurut kitab-kitab pesantren\n"
+                "\n"
+                "Pemakaian:\n"
+                "  falak nilai OPERASI...          kalkulator nilai (mis. 'tambah;3;3;1;00 10 00 00 00 1;00 20 00 00 00 1')\n"
+                "  falak nilai --batch             operasi satu per baris dari masukan baku\n") +
+    falak::cli::kBantuanTempat;
 
 }  // namespace
 
@@ -25,6 +27,7 @@ int main(int argc, char** argv) {
     const std::string perintah = argumen[0];
     argumen.erase(argumen.begin());
     if (perintah == "nilai") return falak::cli::perintahNilai(argumen, std::cin, std::cout, std::cerr);
+    if (perintah == "tempat") return falak::cli::perintahTempat(argumen, falak::CariLokasiData(), std::cout, std::cerr);
     std::cerr << "falak: perintah \"" << perintah << "\" tidak dikenal\n\n" << kBantuan;
     return 2;
 }

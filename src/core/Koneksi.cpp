@@ -1,0 +1,49 @@
+#include "core/Koneksi.h"
+
+namespace falak {
+
+ClsConnection::ClsConnection(LokasiData lokasi) : lokasi_(std::move(lokasi)) {
+    for (Tabel* t : semua()) BukaTabel(*t, t->nama());
+}
+
+std::vector<Tabel*> ClsConnection::semua() {
+    return {&Daerah,      &ClearTxtMargen,  &Lines,      &ListTxt,     &MergenExcel,    &Names,
+            &Nodes,       &Refraksi,        &TafawutWIB, &TQQDaqoiqAhTaf, &TQQImkanGerhana, &TQQRumuz,
+            &TQQSaah,     &TQQSyahru,       &TQQTaadil,  &TQQthMab,    &TQQYaumTam,     &TRBSyahru,
+            &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2};
+}
+
+Tabel* ClsConnection::tabel(std::string_view nama) {
+    for (Tabel* t : semua())
+        if (t->nama() == nama) return t;
+    return nullptr;
+}
+
+void ClsConnection::BukaTabel(Tabel& tabel, std::string_view nama) {
+    std::filesystem::path berkas;
+    std::string alasan;
+    if (nama == "Daerah") {
+        berkas = BerkasDaerah(lokasi_);
+        alasan = BukaDaerah(tabel, lokasi_);
+    } else {
+        berkas = lokasi_.data / (std::string(nama) + ".csv");
+        alasan = tabel.buka(berkas);
+    }
+    if (!alasan.empty()) masalah_.push_back({std::string(nama), berkas, alasan});
+}
+
+std::string ClsConnection::WriteToFile(Tabel& tabel) {
+    if (&tabel != &Daerah) return "Hanya daftar tempat yang boleh disimpan.";
+    return registerDaerah().simpan();
+}
+
+std::string LaporanMasalah(const std::vector<MasalahTabel>& masalah) {
+    if (masalah.empty()) return {};
+    std::string pesan = masalah.size() == 1 ? "Ada tabel yang tidak bisa dibaca"
+                                            : "Ada " + std::to_string(masalah.size()) + " tabel yang tidak bisa dibaca";
+    pesan += "; hisab yang memakainya tidak akan lengkap:\n";
+    for (const MasalahTabel& m : masalah) pesan += "  " + m.tabel + " (" + m.berkas.string() + "): " + m.alasan + "\n";
+    return pesan;
+}
+
+}  // namespace falak

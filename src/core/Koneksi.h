@@ -1,0 +1,66 @@
+// ClsConnection: every table of the books, opened once when a session starts and kept open
+// for its life. A table that cannot be read stays closed: its readers find nothing and keep
+// their former values, and the session is told once which tables failed and why.
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "core/Berkas.h"
+#include "core/Daerah.h"
+#include "core/Tabel.h"
+
+namespace falak {
+
+// A table that could not be read, with the file and the reason.
+struct MasalahTabel {
+    std::string tabel;
+    std::filesystem::path berkas;
+    std::string alasan;
+};
+
+class ClsConnection {
+public:
+    // Opens every table, in this order: Daerah (the working copy of the places register),
+    // then the shipped tables from lokasi.data.
+    explicit ClsConnection(LokasiData lokasi);
+
+    ClsConnection(const ClsConnection&) = delete;
+    ClsConnection& operator=(const ClsConnection&) = delete;
+
+    // Opens one table by its name, from its file; a failure is added to masalah().
+    void BukaTabel(Tabel& tabel, std::string_view nama);
+    // Saves the places register to its working copy; an empty text, or the message to show.
+    std::string WriteToFile(Tabel& tabel);
+
+    // A table by name; nullptr for a name that is not one of the tables.
+    Tabel* tabel(std::string_view nama);
+    // The register API over the table Daerah.
+    RegisterDaerah registerDaerah() { return RegisterDaerah(Daerah, BerkasDaerah(lokasi_)); }
+
+    const LokasiData& lokasi() const { return lokasi_; }
+    const std::vector<MasalahTabel>& masalah() const { return masalah_; }
+
+    // The tables, named as the treatises name them.
+    Tabel Daerah{"Daerah"}, ClearTxtMargen{"ClearTxtMargen"}, Lines{"Lines"}, ListTxt{"ListTxt"},
+        MergenExcel{"MergenExcel"}, Names{"Names"}, Nodes{"Nodes"}, Refraksi{"Refraksi"},
+        TafawutWIB{"TafawutWIB"}, TQQDaqoiqAhTaf{"TQQDaqoiqAhTaf"}, TQQImkanGerhana{"TQQImkanGerhana"},
+        TQQRumuz{"TQQRumuz"}, TQQSaah{"TQQSaah"}, TQQSyahru{"TQQSyahru"}, TQQTaadil{"TQQTaadil"},
+        TQQthMab{"TQQthMab"}, TQQYaumTam{"TQQYaumTam"}, TRBSyahru{"TRBSyahru"}, TRBSyahruSH{"TRBSyahruSH"},
+        TRBTaadil{"TRBTaadil"}, TRBTaadilSH{"TRBTaadilSH"}, TRBthMabSH{"TRBthMabSH"}, TdlTA1{"TdlTA1"},
+        TdlTA2{"TdlTA2"};
+
+    // Every table in the order of opening.
+    std::vector<Tabel*> semua();
+
+private:
+    LokasiData lokasi_;
+    std::vector<MasalahTabel> masalah_;
+};
+
+// One plain message for the user about the tables that could not be read; empty when none.
+std::string LaporanMasalah(const std::vector<MasalahTabel>& masalah);
+
+}  // namespace falak

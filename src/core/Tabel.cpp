@@ -1,0 +1,343 @@
+#include "core/Tabel.h"
+
+#include <charconv>
+#include <limits>
+
+#include "core/Berkas.h"
+
+namespace falak {
+
+namespace {
+
+// The line (from 1) on which position pos of the text lies.
+size_t barisDi(std::string_view isi, size_t pos) {
+    size_t baris = 1;
+    for (size_t i = 0; i < pos && i < isi.size(); ++i)
+        if (isi[i] == '\n') ++baris;
+    return baris;
+}
+
+// Position of the first byte that breaks UTF-8 (overlong forms, surrogates and code points
+// past U+10FFFF included), or npos.
+size_t salahUtf8(std::string_view s) {
+    const auto* p = reinterpret_cast<const unsigned char*>(s.data());
+    const size_t n = s.size();
+    size_t i = 0;
+    while (i < n) {
+        const unsigned char c = p[i];
+        if (c < 0x80) {
+            ++i;
+            continue;
+        }
+        size_t lanjut;
+        uint32_t kode;
+        if (c >= 0xC2 && c <= 0xDF) { lanjut = 1; kode = c & 0x1F; }
+        else if (c >= 0xE0 && c <= 0xEF) { lanjut = 2; kode = c & 0x0F; }
+        else if (c >= 0xF0 && c <= 0xF4) { lanjut = 3; kode = c & 0x07; }
+        else return i;
+        for (size_t k = 1; k <= lanjut; ++k) {
+            if (i + k >= n || (p[i + k] & 0xC0) != 0x80) return i;
+            kode = (kode << 6) | (p[i + k] & 0x3F);
+        }
+        if ((lanjut == 2 && (kode < 0x800 || (kode >= 0xD800 && kode <= 0xDFFF))) ||
+            (lanjut == 3 && (kode < 0x10000 || kode > 0x10FFFF)))
+            return i;
+        i += lanjut + 1;
+    }
+    return std::string_view::npos;
+}
+
+bool perluPetik(std::string_view s) { return s.find_first_of(",\"\r\n") != std::string_view::npos; }
+
+void tulisIsian(std::string& out, std::string_view s) {
+    if (!perluPetik(s)) {
+        out.append(s);
+        return;
+    }
+    out.push_back('"');
+    for (const char c : s) {
+        if (c == '"') out.push_back('"');
+        out.push_back(c);
+    }
+    out.push_back('"');
+}
+
+// Reads the CSV records one by one. Each field is handed to the sink as it is read, so that
+// the cells of a large table go straight into their store.
+class PembacaCsv {
+public:
+    explicit PembacaCsv(std::string_view isi) : s_(isi) {}
+
+    bool habis() const { return i_ >= s_.size(); }
+    size_t baris() const { return baris_; }
+
+    // Reads one record, giving each field to tambah(field). Returns the number of fields, 0
+    // for a blank line; an error text in galat for a quote that is never closed or is followed
+    // by something other than a separator.
+    template <typename Tambah>
+    size_t rekaman(Tambah&& tambah, std::string& galat) {
+        size_t n = 0;
+        if (akhirBaris()) {
+            lewatiAkhirBaris();
+            return 0;
+        }
+        for (;;) {
+            if (i_ < s_.size() && s_[i_] == '"') {
+                const size_t mulai = baris_;
+                ++i_;
+                buf_.clear();
+                for (;;) {
+                    if (i_ >= s_.size()) {
+                        galat = "tanda petik yang dibuka di baris " + std::to_string(mulai) + " tidak ditutup";
+                        return n;
+                    }
+                    const char c = s_[i_++];
+                    if (c == '"') {
+                        if (i_ < s_.size() && s_[i_] == '"') {
+                            buf_.push_back('"');
+                            ++i_;
+                            continue;
+                        }
+                        break;
+                    }
+                    if (c == '\n') ++baris_;
+                    buf_.push_back(c);
+                }
+                tambah(std::string_view(buf_));
+                if (!akhirBaris() && s_[i_] != ',') {
+                    galat = "sesudah tanda petik penutup mestinya koma atau akhir baris";
+                    return n;
+                }
+            } else {
+                const size_t awal = i_;
+                while (i_ < s_.size() && s_[i_] != ',' && s_[i_] != '\n' &&
+                       !(s_[i_] == '\r' && (i_ + 1 == s_.size() || s_[i_ + 1] == '\n')))
+                    ++i_;
+                tambah(s_.substr(awal, i_ - awal));
+            }
+            ++n;
+            if (i_ < s_.size() && s_[i_] == ',') {
+                ++i_;
+                continue;
+            }
+            lewatiAkhirBaris();
+            return n;
+        }
+    }
+
+private:
+    bool akhirBaris() const {
+        return i_ >= s_.size() || s_[i_] == '\n' || (s_[i_] == '\r' && (i_ + 1 == s_.size() || s_[i_ + 1] == '\n'));
+    }
+    void lewatiAkhirBaris() {
+        if (i_ < s_.size() && s_[i_] == '\r') ++i_;
+        if (i_ < s_.size() && s_[i_] == '\n') {
+            ++i_;
+            ++baris_;
+        }
+    }
+
+    std::string_view s_;
+    size_t i_ = 0;
+    size_t baris_ = 1;
+    std::string buf_;
+};
+
+}  // namespace
+
+Tabel::Tabel(Tabel&& lain) noexcept { *this = std::move(lain); }
+
+Tabel& Tabel::operator=(Tabel&& lain) noexcept {
+    if (this == &lain) return *this;
+    nama_ = std::move(lain.nama_);
+    terbuka_ = lain.terbuka_;
+    kolom_ = std::move(lain.kolom_);
+    posisiKolom_ = std::move(lain.posisiKolom_);
+    teks_ = std::move(lain.teks_);
+    sel_ = std::move(lain.sel_);
+    baris_ = lain.baris_;
+    kursor_ = lain.kursor_;
+    // A short text moves its characters with it: the indexes' views would point into the old one.
+    indeks_.clear();
+    indeks_.resize(kolom_.size());
+    lain.tutup();
+    return *this;
+}
+
+Tabel::~Tabel() = default;
+
+void Tabel::tutup() {
+    terbuka_ = false;
+    kolom_.clear();
+    posisiKolom_.clear();
+    teks_.clear();
+    sel_.clear();
+    baris_ = 0;
+    kursor_ = 0;
+    indeks_.clear();
+}
+
+void Tabel::bukaKosong(std::vector<std::string> kolom) {
+    tutup();
+    kolom_ = std::move(kolom);
+    for (size_t k = 0; k < kolom_.size(); ++k) posisiKolom_.emplace(kolom_[k], k);
+    indeks_.resize(kolom_.size());
+    terbuka_ = true;
+}
+
+std::string Tabel::bacaCsv(std::string_view isi) {
+    tutup();
+    if (isi.size() >= 3 && isi.substr(0, 3) == "\xEF\xBB\xBF") isi.remove_prefix(3);
+    if (isi.size() >= std::numeric_limits<uint32_t>::max()) return "berkas kebesaran";
+    if (const size_t salah = salahUtf8(isi); salah != std::string_view::npos)
+        return "baris " + std::to_string(barisDi(isi, salah)) + ": bukan teks UTF-8 yang sah";
+
+    PembacaCsv csv(isi);
+    std::string galat;
+    std::vector<std::string> kolom;
+    while (!csv.habis() && kolom.empty()) {
+        csv.rekaman([&](std::string_view f) { kolom.emplace_back(f); }, galat);
+        if (!galat.empty()) return "baris " + std::to_string(csv.baris()) + ": " + galat;
+    }
+    if (kolom.empty()) return "berkas kosong, tidak ada baris judul";
+    for (size_t k = 0; k < kolom.size(); ++k) {
+        if (kolom[k].empty()) return "baris judul: nama kolom ke-" + std::to_string(k + 1) + " kosong";
+        for (size_t j = 0; j < k; ++j)
+            if (kolom[j] == kolom[k]) return "baris judul: kolom \"" + kolom[k] + "\" ada dua kali";
+    }
+
+    std::string teks;
+    std::vector<Sel> sel;
+    teks.reserve(isi.size());
+    sel.reserve(isi.size() / 4);
+    size_t baris = 0;
+    while (!csv.habis()) {
+        const size_t nomor = csv.baris();
+        const size_t n = csv.rekaman(
+            [&](std::string_view f) {
+                sel.push_back({static_cast<uint32_t>(teks.size()), static_cast<uint32_t>(f.size())});
+                teks.append(f);
+            },
+            galat);
+        if (!galat.empty()) return "baris " + std::to_string(nomor) + ": " + galat;
+        if (n == 0) continue;
+        if (n != kolom.size())
+            return "baris " + std::to_string(nomor) + ": ada " + std::to_string(n) + " isian, mestinya " +
+                   std::to_string(kolom.size());
+        ++baris;
+    }
+
+    bukaKosong(std::move(kolom));
+    teks_ = std::move(teks);
+    sel_ = std::move(sel);
+    baris_ = baris;
+    return {};
+}
+
+std::string Tabel::buka(const std::filesystem::path& berkas) {
+    tutup();
+    std::string isi;
+    if (std::string alasan = BacaBerkas(berkas, isi); !alasan.empty()) return alasan;
+    return bacaCsv(isi);
+}
+
+std::string Tabel::keCsv() const {
+    std::string out;
+    out.reserve(teks_.size() + sel_.size() + 64);
+    for (size_t k = 0; k < kolom_.size(); ++k) {
+        if (k) out.push_back(',');
+        tulisIsian(out, kolom_[k]);
+    }
+    out.push_back('\n');
+    for (size_t b = 0; b < baris_; ++b) {
+        for (size_t k = 0; k < kolom_.size(); ++k) {
+            if (k) out.push_back(',');
+            tulisIsian(out, sel(b, k));
+        }
+        out.push_back('\n');
+    }
+    return out;
+}
+
+int Tabel::indeksKolom(std::string_view nama) const {
+    const auto it = posisiKolom_.find(nama);
+    return it == posisiKolom_.end() ? -1 : static_cast<int>(it->second);
+}
+
+std::string_view Tabel::sel(size_t baris, size_t kolom) const {
+    if (baris >= baris_ || kolom >= kolom_.size()) return {};
+    const Sel& s = sel_[baris * kolom_.size() + kolom];
+    return std::string_view(teks_).substr(s.awal, s.panjang);
+}
+
+const Tabel::Indeks& Tabel::indeks(size_t kolom) {
+    auto& slot = indeks_[kolom];
+    if (!slot) {
+        slot = std::make_unique<Indeks>();
+        slot->reserve(baris_);
+        // emplace keeps the first row of a repeated key: the forward search's first match.
+        for (size_t b = 0; b < baris_; ++b) slot->emplace(sel(b, kolom), static_cast<uint32_t>(b));
+    }
+    return *slot;
+}
+
+void Tabel::lupakanIndeks() {
+    for (auto& i : indeks_) i.reset();
+}
+
+bool Tabel::cari(std::string_view kolom, std::string_view kunci) {
+    kursor_ = baris_;
+    const int k = indeksKolom(kolom);
+    if (k < 0) return false;
+    const Indeks& idx = indeks(static_cast<size_t>(k));
+    const auto it = idx.find(kunci);
+    if (it == idx.end()) return false;
+    kursor_ = it->second;
+    return true;
+}
+
+bool Tabel::cari(std::string_view kolom, int64_t kunci) {
+    char buf[24];
+    const auto [akhir, ec] = std::to_chars(buf, buf + sizeof buf, kunci);
+    (void)ec;
+    return cari(kolom, std::string_view(buf, static_cast<size_t>(akhir - buf)));
+}
+
+std::optional<std::string_view> Tabel::baca(std::string_view kolom) const { return baca(indeksKolom(kolom)); }
+
+std::optional<std::string_view> Tabel::baca(int kolom) const {
+    if (eof() || kolom < 0 || static_cast<size_t>(kolom) >= kolom_.size()) return std::nullopt;
+    return sel(kursor_, static_cast<size_t>(kolom));
+}
+
+Tabel::Sel Tabel::simpan(std::string_view isi) {
+    const Sel s{static_cast<uint32_t>(teks_.size()), static_cast<uint32_t>(isi.size())};
+    // A cell copied from this very table would be read from the store while it grows.
+    const std::string kopi(isi);
+    teks_.append(kopi);
+    return s;
+}
+
+void Tabel::tambahBaris(const std::vector<std::string>& isi) {
+    lupakanIndeks();
+    for (size_t k = 0; k < kolom_.size(); ++k) sel_.push_back(simpan(k < isi.size() ? isi[k] : std::string_view()));
+    ++baris_;
+}
+
+void Tabel::ubahSel(size_t baris, size_t kolom, std::string_view isi) {
+    if (baris >= baris_ || kolom >= kolom_.size()) return;
+    lupakanIndeks();
+    // The old text stays in the store unused: the register is small and saved whole anyway.
+    sel_[baris * kolom_.size() + kolom] = simpan(isi);
+}
+
+void Tabel::hapusBaris(size_t baris) {
+    if (baris >= baris_) return;
+    lupakanIndeks();
+    const auto awal = sel_.begin() + static_cast<std::ptrdiff_t>(baris * kolom_.size());
+    sel_.erase(awal, awal + static_cast<std::ptrdiff_t>(kolom_.size()));
+    --baris_;
+    if (kursor_ > baris_) kursor_ = baris_;
+}
+
+}  // namespace falak

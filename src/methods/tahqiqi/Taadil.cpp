@@ -1,0 +1,335 @@
+#include "methods/tahqiqi/Taadil.h"
+
+#include <optional>
+
+#include "core/Angka.h"
+#include "core/FungsHisab.h"
+
+namespace falak {
+
+namespace {
+
+// One tabulated quantity: its columns and the fields (2 darojah ... 5 tsalitsah) they fill.
+struct Kolom {
+    const char* nama[3];
+    int posisi[3];
+    int modus = 1;
+};
+
+// The columns of codes 1 to 41 that Syatar1 reads; nullopt for the codes it does not.
+std::optional<Kolom> kolomKode(int kode) {
+    switch (kode) {
+        case 1: return Kolom{{"tdKsJah", "tdKsQoh"}, {2, 3}};
+        case 2: return Kolom{{"tdMrJah", "tdMrQoh"}, {2, 3}};
+        case 3: return Kolom{{"ArQoh", "ArNii"}, {3, 4}};
+        case 4: return Kolom{{"hsJah1", "hsQoh1"}, {2, 3}};
+        case 5: return Kolom{{"dqMsQoh"}, {3}};
+        case 6: return Kolom{{"hsJah", "hsQoh", "hsNii"}, {2, 3, 4}};
+        case 7: return Kolom{{"tdThMasehi"}, {0}};
+        case 8: return Kolom{{"tdlSyamsiJah", "tdlSyamsiQoh", "tdlSyamsiNii"}, {2, 3, 4}};
+        case 9: return Kolom{{"tdlAwalQomarQoh", "tdlAwalQomarNii"}, {3, 4}};
+        case 10: return Kolom{{"tdlTsaniQomarJah", "tdlTsaniQomarQoh", "tdlTsaniQomarNii"}, {2, 3, 4}};
+        case 11: return Kolom{{"tdlTsalitsKhQomarQoh", "tdlTsalitsKhQomarNii"}, {3, 4}};
+        case 12: return Kolom{{"tdlTsalitsWsQomarJah", "tdlTsalitsWsQomarQoh", "tdlTsalitsWsQomarNii"}, {2, 3, 4}};
+        case 13: return Kolom{{"tdlRobiWsQomarQoh", "tdlRobiWsQomarNii"}, {3, 4}};
+        case 14: return Kolom{{"tdlMutamimRiksiQoh", "tdlMutamimRiksiNii"}, {3, 4}};
+        case 15: return Kolom{{"tdlKhomisWsQomarQoh", "tdlKhomisWsQomarNii"}, {3, 4}};
+        case 16: return Kolom{{"MatholiJah", "MatholiQoh"}, {2, 3}, 2};
+        case 17: return Kolom{{"SabaqKW2Qoh", "SabaqKW2Nii"}, {3, 4}};
+        case 18: return Kolom{{"SabaqQ1Qoh", "SabaqQ1Nii", "SabaqQ1Lis"}, {3, 4, 5}};
+        case 19: return Kolom{{"SabaqQ2Nii", "SabaqQ2Lis"}, {4, 5}};
+        case 20: return Kolom{{"SabaqQ3Nii", "SabaqQ3Lis"}, {4, 5}};
+        case 21: return Kolom{{"SabaqSQoh", "SabaqSNii", "SabaqSLis"}, {3, 4, 5}};
+        case 22: return Kolom{{"BuhtuJah", "BuhtuQoh"}, {2, 3}};
+        case 23: return Kolom{{"HsJah6_12", "HsQoh6_12", "HsNii6_12"}, {2, 3, 4}};
+        case 24: return Kolom{{"HsJah5_11", "HsQoh5_11", "HsNii5_11"}, {2, 3, 4}};
+        case 28: return Kolom{{"NusQothrZilQoh", "NusQothrZilNii"}, {3, 4}};
+        case 29: return Kolom{{"NusQothrQomQoh", "NusQothrQomNii"}, {3, 4}};
+        case 30: return Kolom{{"NusQothrSymsQoh", "NusQothrSymsNii"}, {3, 4}};
+        case 31: return Kolom{{"QothrQomQoh", "QothrQomNii"}, {3, 4}};
+        case 33: return Kolom{{"IkhtilafThulQoh", "IkhtilafThulNii"}, {3, 4}};
+        case 34: return Kolom{{"IkhtilafArdliQoh", "IkhtilafArdliNii"}, {3, 4}};
+        case 38: return Kolom{{"MelAwalJah", "MelAwalQoh", "MelAwalNii"}, {2, 3, 4}};
+        case 40: return Kolom{{"JaibJah", "JaibQoh"}, {2, 3}};
+        case 41: return Kolom{{"IkhtilafMandhorQoh", "IkhtilafMandhorNii"}, {3, 4}};
+        default: return std::nullopt;
+    }
+}
+
+// The latitude tables: the pair of columns by the place's latitude degrees.
+Kolom kolomIqlim(int lintangDerajat) {
+    switch (lintangDerajat) {
+        case 6: return Kolom{{"IqlimJah6", "IqlimQoh6"}, {2, 3}};
+        case 7: return Kolom{{"IqlimJah7", "IqlimQoh7"}, {2, 3}};
+        default: return Kolom{{"IqlimJah8", "IqlimQoh8"}, {2, 3}};
+    }
+}
+
+// The key of Syatar1, wrapped into 1 .. the table's top; no key for a step of 0.
+std::optional<int64_t> kunciSyatar(int kode, const Nilai& v, int langkah, bool jam) {
+    const int64_t f1 = AmbilTingkat(v, 1);
+    const int64_t f2 = AmbilTingkat(v, 2);
+    const int64_t f3 = AmbilTingkat(v, 3);
+    int64_t kunci;
+    int64_t putaran;
+    if (jam) {
+        kunci = f1 * 24 + f2;
+        putaran = 288;
+    } else if (langkah == 12) {
+        // The table of code 24 begins at 17 degrees.
+        kunci = (f2 - (kode == 24 ? 17 : 0)) * 60 + f3 / 12 * 12;
+        putaran = 816;
+    } else {
+        if (langkah == 0) return std::nullopt;
+        kunci = f2 / langkah * langkah + f1 * 30;
+        putaran = 360;
+    }
+    if (kunci <= 0) kunci += putaran;
+    if (kunci > putaran) kunci -= putaran;
+    return kunci;
+}
+
+// A value from the columns of the current row, positive, in the given form.
+Nilai dariBaris(const Tabel& t, const Kolom& k) {
+    std::string_view medan[5] = {"0", "0", "0", "0", "0"};
+    for (int i = 0; i < 3 && k.nama[i]; ++i) {
+        const auto sel = t.baca(k.nama[i]);
+        if (!sel) return {};
+        medan[k.posisi[i] - 1] = *sel;
+    }
+    return DlorbuSittin(medan[0], medan[1], medan[2], medan[3], medan[4], 1, k.modus).value_or(Nilai());
+}
+
+Nilai darojah(int64_t d, int tanda, int modus) { return DlorbuSittin(0, d, 0, 0, 0, tanda, modus); }
+
+// The term of the interpolation: offset x (difference / a value of n degrees), products in form 2.
+Hasil suku(const Nilai& selisihArgumen, const Nilai& selisihEntri, int64_t n) {
+    const Hasil bagi = BagiNilai(3, 3, 2, selisihEntri, darojah(n, 1, 2));
+    if (!bagi) return std::nullopt;
+    return KaliNilai(3, 3, 2, selisihArgumen, *bagi);
+}
+
+// The degree of longitude of the current row of the right ascension table, from its key.
+Nilai bujurBaris(const Tabel& t) {
+    const int64_t cari = BulatGenap32(ValAngka(t.baca("Cari").value_or(""))).value_or(0);
+    return DlorbuSittin(cari / 30, cari % 30, 0, 0, 0, 1, 1);
+}
+
+// The eclipse tables: key column, the key that stands for 0, and the columns of each code.
+struct Ganda {
+    const char* kolomKunci;
+    int64_t kunciNol;
+    Kolom kolom;
+};
+
+std::optional<Ganda> gandaKode(int kode) {
+    switch (kode) {
+        case 25: return Ganda{"CariKsf", 360, {{"AshobiJah", "AshobiQoh"}, {2, 3}}};
+        case 26: return Ganda{"CariKsf", 360, {{"MuktsKhusfJah", "MuktsKhusfQoh"}, {2, 3}}};
+        case 27: return Ganda{"CariKsf", 360, {{"SaatKhusfJah", "SaatKhusfQoh"}, {2, 3}}};
+        case 35: return Ganda{"CariKsfS", 351, {{"AshobiJahS", "AshobiQohS"}, {2, 3}}};
+        case 36: return Ganda{"CariKsfS", 351, {{"SaatKhusfJahS", "SaatKhusfQohS"}, {2, 3}}};
+        case 37: return Ganda{"CariKsfS", 351, {{"SaatMuktsuS"}, {3}}};
+        default: return std::nullopt;
+    }
+}
+
+constexpr int64_t kDasarGanda = 710;   // 11 degrees 50 minutes, the first row of the first argument
+constexpr int64_t kSelangGanda = 20;   // minutes of the first argument per row
+constexpr int64_t kLangkahGanda = 65;  // keys per row of the first argument
+constexpr int64_t kPuncakGanda = 650;
+
+int64_t menit(const Nilai& v) { return int64_t{AmbilTingkat(v, 2)} * 60 + AmbilTingkat(v, 3); }
+
+}  // namespace
+
+Tabel& ClsTaadil::tabelUntuk(int kode) const {
+    const bool r = (kode >= 1 && kode <= 7) || (kode >= 22 && kode <= 24) || (kode >= 28 && kode <= 31) ||
+                   kode == 33 || kode == 34 || (kode >= 38 && kode <= 41);
+    return r ? trb_ : tqq_;
+}
+
+Nilai ClsTaadil::Syatar1(int kode, const Nilai& nilai, int langkah, bool jam) {
+    const std::optional<Kolom> kolom = kode == 39 ? kolomIqlim(tempat_.lintangDerajat) : kolomKode(kode);
+    if (!kolom) return {};
+    const auto kunci = kunciSyatar(kode, nilai, langkah, jam);
+    if (!kunci) return {};
+    Tabel& t = tabelUntuk(kode);
+    if (!t.cari("Cari", *kunci)) return {};
+    if (kode == 7) {
+        const auto sel = t.baca("tdThMasehi");
+        if (!sel) return {};
+        return Nilai("000 00 " + std::string(*sel) + " 00 00 00 00 00 00");
+    }
+    return dariBaris(t, *kolom);
+}
+
+Nilai ClsTaadil::TaadilKusfM(int kode, const Nilai& nilai, int langkah, bool jam, int& langkahIqlim) {
+    if (langkah == 12) {
+        const Nilai v = TambahNilai(3, 3, 1, nilai, DlorbuSittin(0, 0, 12, 0, 0, nilai.tanda(), 1));
+        return Syatar1(kode, v, 12, jam);
+    }
+    if (kode == 39) {
+        // The latitude tables are not evenly spaced: each row names the argument of the next.
+        const auto m = trb_.baca("MahFudIqlim");
+        if (!m) return {};
+        const auto berikut = DlorbuSittin("0", *m, "0", "0", "0", 1, 3);
+        if (!berikut) return {};
+        const Nilai sini = DlorbuSittin(AmbilTingkat(nilai, 1), AmbilTingkat(nilai, 2), 0, 0, 0, 1, 3);
+        langkahIqlim = AmbilTingkat(KurangNilai(3, 3, 3, *berikut, sini), 2);
+        return Syatar1(39, *berikut, 1, false);
+    }
+    const Nilai v = TambahNilai(3, 3, 1, nilai, darojah(langkah, nilai.tanda(), 1));
+    return Syatar1(kode, v, langkah, jam);
+}
+
+Hasil ClsTaadil::TdlTarekhMasehi(int kode, const Nilai& entri, const Nilai& entriBerikut, const Nilai& nilai,
+                                 int langkah, int langkahIqlim) {
+    const Nilai s = NolkanBuruj(nilai);
+    const int64_t n = kode == 39 ? langkahIqlim : langkah;
+    if (n == 0) return std::nullopt;
+    const int64_t f2 = AmbilTingkat(nilai, 2);
+    const Nilai pangkal = n == 12 ? DlorbuSittin(0, f2, AmbilTingkat(nilai, 3) / 12 * 12, 0, 0, s.tanda(), 1)
+                                  : darojah(f2 / n * n, s.tanda(), 1);
+    const Nilai lebih = KurangNilai(3, 3, 1, s, pangkal);
+    // Also for rows of 12 minutes the divisor is n degrees: the term comes out sixty times
+    // smaller than a linear one, and the treatises' digits follow from that.
+    return suku(lebih, KurangNilai(3, 3, 2, entri, entriBerikut), n);
+}
+
+Nilai ClsTaadil::TaadilSisa(const Nilai& entri, const Nilai& /*entriBerikut*/, const Nilai& suku) {
+    return KurangNilai(3, 3, 2, entri, suku);
+}
+
+void ClsTaadil::TaadilBaris(std::span<Nilai, 5> baris, int kode, const Nilai& nilai, int langkah, bool jam) {
+    if (kode != 32) {
+        int langkahIqlim = 0;
+        baris[0] = Madkhul(nilai);
+        baris[1] = Syatar1(kode, nilai, langkah, jam);
+        baris[2] = TaadilKusfM(kode, nilai, langkah, jam, langkahIqlim);
+        const Nilai plus = GantiTanda(nilai, "1");
+        isi(baris[3], TdlTarekhMasehi(kode, baris[1], baris[2], plus, langkah, langkahIqlim));
+        baris[4] = TaadilSisa(baris[1], baris[2], baris[3]);
+        return;
+    }
+
+    // The right ascension table may skip a degree: step down until a row answers. A table
+    // without any whole-degree row would answer never; a full turn is enough to know that.
+    int64_t d = AmbilTingkat(nilai, 2) - (AmbilTingkat(nilai, 3) != 0 ? 1 : 0);
+    if (d < 0) d += 360;
+    bool ada = false;
+    for (int coba = 0; coba <= 360 && !ada; ++coba) {
+        ada = tqq_.cari("MatholiJah", d);
+        if (!ada && --d < 0) d += 360;
+    }
+    if (!ada) return;
+    baris[0] = KurangNilai(3, 3, 2, nilai, darojah(d, 1, 2));
+    baris[1] = bujurBaris(tqq_);
+    tqq_.moveNext();
+    if (tqq_.eof()) tqq_.moveFirst();
+    baris[2] = bujurBaris(tqq_);
+    baris[3] = KurangNilai(3, 3, 1, baris[1], baris[2]);
+    isi(baris[3], KaliNilai(3, 3, 1, baris[0], baris[3]));
+    baris[0] = Madkhul(nilai);
+    baris[4] = KurangNilai(3, 3, 1, baris[1], baris[3]);
+}
+
+bool ClsTaadil::gandaIsi(std::span<Nilai> baris, int kode, const Nilai& a, const Nilai& b) {
+    for (Nilai& sel : baris) sel = Nilai();
+    const auto g = gandaKode(kode);
+    if (!g) return false;
+
+    const int64_t i = (menit(a) - kDasarGanda) / kSelangGanda;
+    const int64_t j = menit(b);
+    const auto kunci = [&](int64_t k) {
+        if (k < 0) k += kPuncakGanda;
+        if (k == 0) k = g->kunciNol;
+        if (k > kPuncakGanda) k -= kPuncakGanda;
+        return k;
+    };
+    const int64_t dasar = j + i * kLangkahGanda;
+    const auto entri = [&](int64_t k) {
+        return trb_.cari(g->kolomKunci, kunci(k)) ? dariBaris(trb_, g->kolom) : Nilai();
+    };
+    const Nilai e1 = entri(dasar);
+    const bool ada = !e1.kosongTeks();
+
+    // Offsets of the arguments from their rows: the seconds of b beyond its whole minute, and
+    // the minutes of a beyond its row of 20.
+    const Nilai lebihB = KurangNilai(3, 3, 1, GantiTanda(NolkanBuruj(b), "1"), DlorbuSittin(0, 0, j, 0, 0, 1, 1));
+    const Nilai lebihA = KurangNilai(3, 3, 1, GantiTanda(NolkanBuruj(a), "1"),
+                                     DlorbuSittin(0, 0, kDasarGanda + i * kSelangGanda, 0, 0, 1, 1));
+
+    const auto sebaris = [&](int64_t k, size_t awal) {
+        baris[awal] = awal == 0 ? e1 : entri(k);
+        baris[awal + 1] = entri(k + 1);
+        isi(baris[awal + 2], suku(lebihB, KurangNilai(3, 3, 2, baris[awal], baris[awal + 1]), 1));
+        baris[awal + 3] = TaadilSisa(baris[awal], baris[awal + 1], baris[awal + 2]);
+    };
+    sebaris(dasar, 0);
+    sebaris(dasar + kLangkahGanda, 4);
+    baris[8] = KurangNilai(3, 3, 2, baris[3], baris[7]);
+    isi(baris[9], suku(lebihA, baris[8], kSelangGanda));
+    baris[10] = TaadilSisa(baris[3], baris[7], baris[9]);
+    return ada;
+}
+
+bool ClsTaadil::TaadilKhusfGanda(std::span<Nilai, 11> baris, int kode, const Nilai& a, const Nilai& b) {
+    return gandaIsi(baris, kode, a, b);
+}
+
+bool ClsTaadil::TaadilKusfGanda(std::span<Nilai, 13> baris, int kode, const Nilai& a, const Nilai& b) {
+    // Beyond these sums of degrees and minutes the solar table has no rows: the bigger the
+    // first argument, the more latitude the second may have.
+    const int64_t sa = menit(a);
+    const int64_t sb = menit(b);
+    const bool lewat = sa <= 750 ? sb > 31 : (sa <= 890 ? sb > 32 : sb > 35);
+    if (lewat) {
+        for (Nilai& sel : baris) sel = Nilai();
+        return false;
+    }
+    const bool ada = gandaIsi(baris.first<11>(), kode, a, b);
+    baris[11] = Madkhul(b);
+    baris[12] = Madkhul(a);
+    return ada;
+}
+
+bool ClsTaadil::OperMasehi(const Nilai& tanggal) {
+    int tahun = AmbilTingkat(tanggal, 6);
+    const int bulan = AmbilTingkat(tanggal, 7);
+    if (bulan < 1 || bulan > 12) return false;
+    if (bulan <= 2) --tahun;
+    return Umurbulan(tahun, 2) == 29;
+}
+
+std::array<Nilai, 2> ClsTaadil::Taadil(const Nilai& majmu, const Nilai& mabsut, const Nilai& syahr,
+                                       const Nilai& saah) {
+    MedanAlamah m{};
+    for (const Nilai* v : {&majmu, &mabsut, &syahr})
+        for (int f = 0; f < 4; ++f) m[static_cast<size_t>(f)] += AmbilTingkat(*v, 6 + f);
+    m[5] = AmbilTingkat(saah, 2);
+    Nilai tanggal = AlamahTarkh(2, m, 1);
+
+    const Nilai koreksi = Syatar1(7, darojah(m[2], 1, 1), 1, false);
+    if (!koreksi.kosongTeks()) tanggal = TambahNilai(2, 3, 1, tanggal, koreksi);
+
+    Nilai akhir = tanggal;
+    if (OperMasehi(tanggal)) akhir = TambahNilai(2, 3, 1, tanggal, Nilai("00 00 01 00 00 00 00 00 00 0"));
+    return {tanggal, akhir};
+}
+
+std::string ClsTaadil::TaadilKhusf(const Nilai& a, const Nilai& b, const Nilai& c, std::string_view bentuk) {
+    int64_t buruj = 0;
+    int64_t derajat = 0;
+    for (const Nilai* v : {&a, &b, &c}) {
+        buruj += AmbilTingkat(*v, 1);
+        derajat += AmbilTingkat(*v, 2);
+    }
+    const Nilai jumlah = DlorbuSittin(buruj, derajat, 0, 0, 0, 1, 1);
+    const std::string teks = std::to_string(int64_t{AmbilTingkat(jumlah, 1)} * 30 + AmbilTingkat(jumlah, 2));
+    const bool kena = teks == "26" || teks == "51" || teks == "49";
+    const size_t awal = kena ? 0 : 2;
+    return awal < bentuk.size() ? std::string(bentuk.substr(awal, 2)) : std::string();
+}
+
+}  // namespace falak
