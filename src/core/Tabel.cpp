@@ -3,6 +3,7 @@
 #include <charconv>
 #include <limits>
 
+#include "core/Angka.h"
 #include "core/Berkas.h"
 
 namespace falak {
@@ -338,6 +339,16 @@ void Tabel::hapusBaris(size_t baris) {
     sel_.erase(awal, awal + static_cast<std::ptrdiff_t>(kolom_.size()));
     --baris_;
     if (kursor_ > baris_) kursor_ = baris_;
+}
+
+std::string BacaTeks(const Tabel& tabel, std::string_view kolom) {
+    const auto v = tabel.baca(kolom);
+    return v ? std::string(*v) : std::string();
+}
+
+int32_t BacaBulat(const Tabel& tabel, std::string_view kolom) {
+    const auto v = tabel.baca(kolom);
+    return v ? BulatGenap32(ValAngka(*v)).value_or(0) : 0;
 }
 
 }  // namespace falak

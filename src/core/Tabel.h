@@ -108,4 +108,10 @@ private:
     std::vector<std::unique_ptr<Indeks>> indeks_;  // per column, made at its first search
 };
 
+// A field of the current row as text: empty when there is none.
+std::string BacaTeks(const Tabel& tabel, std::string_view kolom);
+// A field of the current row as a whole number, read as the kernel reads table cells
+// (ValAngka, rounded half to even); 0 when there is none.
+int32_t BacaBulat(const Tabel& tabel, std::string_view kolom);
+
 }  // namespace falak

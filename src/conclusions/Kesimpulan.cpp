@@ -1,0 +1,343 @@
+#include "conclusions/Kesimpulan.h"
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <cstdlib>
+#include <limits>
+
+#include "core/FungsHisab.h"
+#include "core/Koneksi.h"
+#include "core/Maghrib.h"
+
+namespace falak {
+
+namespace {
+
+// Months 12 of these years of the thirty-year cycle have 30 days (15, not 16: kept).
+constexpr std::array<int, 11> kTahunKabisat = {2, 5, 7, 10, 13, 15, 18, 21, 24, 26, 29};
+
+bool kabisatMasehi(int64_t y) { return (y % 100 != 0 && y % 4 == 0) || y % 400 == 0; }
+
+int umurBulanHijri(int32_t tahun, int32_t bulan) {
+    if (bulan == 12) {
+        const int sisa = tahun % 30;
+        for (int k : kTahunKabisat)
+            if (k == sisa) return 30;
+        return 29;
+    }
+    return bulan % 2 != 0 ? 30 : 29;
+}
+
+std::string gabung(std::initializer_list<std::string_view> bagian) {
+    std::string out;
+    for (std::string_view b : bagian) {
+        if (!out.empty()) out.push_back(' ');
+        out.append(b);
+    }
+    return out;
+}
+
+std::string rapikan(std::string s) {
+    const size_t a = s.find_first_not_of(' ');
+    if (a == std::string::npos) return {};
+    const size_t b = s.find_last_not_of(' ');
+    return s.substr(a, b - a + 1);
+}
+
+// "The value without field 1, as decimal degrees".
+double tanpaBuruj(const Nilai& v) { return NilaiDesimal(3, NolkanBuruj(v)); }
+
+// The sign of the equation of time by the civil calendar: negative in these stretches.
+bool tafawutNegatif(int bulan, int hari) {
+    switch (bulan) {
+        case 1: case 2: case 3: case 7: case 8: return true;
+        case 4: return hari < 15;
+        case 6: return hari > 14;
+        case 9: return hari < 3;
+        case 12: return hari > 26;
+        default: return false;
+    }
+}
+
+constexpr std::array<const char*, 12> kKolomTafawut = {"Jan", "Peb", "Mar", "Apr", "Mei", "juni",
+                                                       "juli", "Agus", "Sept", "Okt", "Nop", "Des"};
+
+// A time as an arc value of hours (Darojah), minutes, seconds, and back.
+Nilai jamKeNilai(const Waktu& w) { return DlorbuSittin(0, 0, 0, std::llabs(w.detik()), 0, w.detik() < 0 ? 0 : 1, 3); }
+
+Waktu nilaiKeJam(const Nilai& v) {
+    const int64_t detik = int64_t{AmbilTingkat(v, 2)} * 3600 + AmbilTingkat(v, 3) * 60 + AmbilTingkat(v, 4);
+    return Waktu::dari(0, 0, AmbilTanda(v) == 0 ? -detik : detik);
+}
+
+}  // namespace
+
+std::optional<Nilai> ClsKesimpulan::ConvertToHijri(int32_t tahun, int32_t bulan, int32_t tanggal) {
+    const int64_t H = tahun, B = bulan, T = tanggal;
+    constexpr int64_t kMaks32 = std::numeric_limits<int32_t>::max(), kMin32 = std::numeric_limits<int32_t>::min();
+    if (11 * H > kMaks32 || 11 * H < kMin32 || 354 * H > kMaks32 || 354 * H < kMin32) return std::nullopt;
+    if (30 * B > std::numeric_limits<int16_t>::max() || 30 * B < std::numeric_limits<int16_t>::min()) return std::nullopt;
+
+    const double N = std::floor(11.0 * H / 30) + 227015 + 354.0 * H + 30.0 * B - std::floor((B - 1) / 2.0) + T - 384;
+    const double Q = std::floor(N / 1461);
+    double Y = 4 * Q;
+    const double R = N - 1461 * Q;
+    const double A = std::floor(R / 365);
+    Y = Y + A + 1;
+    double D = R - 365 * A;
+    double C = 0;
+    if (Y > 1582 || (Y == 1582 && D > 287)) C = 2 - std::floor(Y / 100) + std::floor(std::floor(Y / 100) / 4);
+    int64_t y = static_cast<int64_t>(BulatGenap(Y));
+    int64_t K = kabisatMasehi(y) ? 1 : 0;
+    D = D - C;
+    if (D >= 365 + K) {
+        y += static_cast<int64_t>(std::floor(D / static_cast<double>(365 + K)));
+        D = static_cast<double>(static_cast<int64_t>(BulatGenap(D)) % (365 + K));
+        K = kabisatMasehi(y) ? 1 : 0;
+    }
+    static constexpr int kBatas[12] = {31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
+    int bulanMasehi = 12;
+    double hari = D;
+    for (int i = 0; i < 12; ++i) {
+        const double batas = kBatas[i] + (i == 0 ? 0 : K);
+        if (D <= batas) {
+            bulanMasehi = i + 1;
+            hari = D - (i == 0 ? 0 : kBatas[i - 1] + (i == 1 ? 0 : K));
+            break;
+        }
+    }
+    const int64_t n = static_cast<int64_t>(BulatGenap(N));
+    int64_t W = n % 7 - 1, P = n % 5 - 1;
+    if (W < 1) W += 7;
+    if (P < 1) P += 5;
+    sesi_.tahunMasehi = std::to_string(y);
+    char bln[8];
+    std::snprintf(bln, sizeof bln, "%02d", bulanMasehi);
+    return Nilai(std::to_string(y) + " " + bln + " " + std::to_string(static_cast<int64_t>(BulatGenap(hari))) + " " +
+                 std::to_string(P) + " " + std::to_string(W) + " 00 00 00 00 1");
+}
+
+std::optional<Nilai> ClsKesimpulan::CariTHM(int32_t tahun, int32_t bulan, int32_t hari) {
+    auto minggu = [](int w) { return w == 0 ? 7 : w; };
+    const int dicari = minggu(hari);
+    const auto akhir = ConvertToHijri(tahun, bulan, umurBulanHijri(tahun, bulan));
+    if (!akhir) return std::nullopt;
+    if (minggu(AmbilTingkat(*akhir, 10)) == dicari) return akhir;
+    for (int i = 25; i <= 34; ++i) {
+        int32_t m = bulan + 12, y = tahun - 1, d = i;
+        if (d > 30) {
+            d -= 30;
+            m += 1;
+        }
+        if (m > 12) {
+            m -= 12;
+            y += 1;
+        }
+        const auto t = ConvertToHijri(y, m, d);
+        if (!t) return std::nullopt;
+        if (minggu(AmbilTingkat(*t, 10)) == dicari) return t;
+    }
+    return Nilai();
+}
+
+int16_t ClsKesimpulan::CekHijriHaqiqi(const Nilai& a, const Nilai& b) {
+    const auto t = ConvertToHijri(AmbilTingkat(b, 6), AmbilTingkat(b, 7), AmbilTingkat(b, 8));
+    return static_cast<int16_t>(AmbilTingkat(a, 8) - (t ? AmbilTingkat(*t, 8) : 0));
+}
+
+std::string ClsKesimpulan::FullM(const Nilai& tanggal, std::string_view jam, bool bulanHijri) {
+    std::string bulan;
+    if (bulanHijri) {
+        const std::string baris = kBarisBulan[static_cast<size_t>(sesi_.barisBulan % 12)];
+        bulan = (baris.size() > 4 ? baris.substr(4) : std::string()) + " :";
+        sesi_.tanggalDiucap = tanggal;
+    }
+    const std::string hari = NamaHari(AmbilTingkat(tanggal, 10), jam, bulanHijri);
+    const std::string pasaran = NamaPas(AmbilTingkat(tanggal, 9)) + ",";
+    const std::string tgl = std::to_string(AmbilTingkat(tanggal, 8));
+    const std::string tahun = std::to_string(AmbilTingkat(tanggal, 6)) + " M.";
+    return rapikan(gabung({bulan, hari, pasaran, tgl, ManaBln(AmbilTingkat(tanggal, 7)), tahun}));
+}
+
+std::string ClsKesimpulan::NamaHari(int hari, std::string_view jam, bool bendera) {
+    double h = ValAngka(jam);
+    if (h < 1) h += 24;
+    if (h > 24) h -= 24;
+    const std::string awalan = (h >= 18 && !bendera) ? " Malam " : "";
+    if (hari > 7) hari -= 7;
+    static constexpr const char* kNama[8] = {"Sabtu", "Ahad", "Senin", "Selasa", "Rabu", "Kamis", "Jum'at", "Sabtu"};
+    return awalan + ((hari >= 0 && hari <= 7) ? kNama[hari] : "");
+}
+
+std::string ClsKesimpulan::NamaBulan(int bulan) {
+    static constexpr const char* kNama[12] = {"Muharrom", "Sofar", "Robiul awal", "Robiul ahir", "Jumadil awal",
+                                              "Jumadil ahir", "Rojab", "Sakban", "Romadon", "Sawal", "Zulqokdah",
+                                              "Zulhijjah"};
+    return (bulan >= 0 && bulan < 12) ? kNama[bulan] : "";
+}
+
+std::string ClsKesimpulan::NamaPas(int pasaran) {
+    static constexpr const char* kNama[6] = {"Kliwon", "Legi", "Pahing", "Pon", "Wage", "Kliwon"};
+    return (pasaran >= 0 && pasaran <= 5) ? kNama[pasaran] : "";
+}
+
+std::string ClsKesimpulan::ManaBln(int bulan) {
+    static constexpr const char* kNama[12] = {"Jan", "Feb", "Mar", "Apr", "Mei", "Jun",
+                                              "Jul", "Agu", "Sep", "Okt", "Nov", "Des"};
+    return (bulan >= 1 && bulan <= 12) ? kNama[bulan - 1] : "";
+}
+
+Waktu ClsKesimpulan::keZona(int bulan, int hari, Waktu waktu) const {
+    if (bulan < 1 || bulan > 12 || !sesi_.koneksi) return waktu;
+    Tabel& tabel = sesi_.koneksi->TafawutWIB;
+    if (!tabel.cari("tgl", hari)) return waktu;
+    const std::string kolom = kKolomTafawut[static_cast<size_t>(bulan - 1)];
+    const int menit = BacaBulat(tabel, kolom + "1");
+    const int detik = BacaBulat(tabel, kolom + "2");
+
+    const Tempat& t = sesi_.tempat;
+    const Nilai bujur = DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), 3);
+    const Nilai selisih = KurangNilai(3, 3, 3, DlorbuSittin(0, 105, 0, 0, 0, 1, 3), bujur);
+    const Nilai jamBujur = BagiNilai(3, 3, 3, selisih, DlorbuSittin(0, 15, 0, 0, 0, 1, 3)).value_or(selisih);
+    const Nilai zona = DlorbuSittin(0, std::abs(t.zona - 7), 0, 0, 0, t.zona < 7 ? 0 : 1, 3);
+    const Nilai tafawut = DlorbuSittin(0, 0, menit, detik, 0, tafawutNegatif(bulan, hari) ? 0 : 1, 3);
+
+    Nilai hasil = KurangNilai(3, 3, 3, jamKeNilai(waktu), tafawut);
+    hasil = TambahNilai(3, 3, 3, hasil, jamBujur, zona);
+    return nilaiKeJam(hasil);
+}
+
+std::string ClsKesimpulan::kataZona() const {
+    switch (sesi_.tempat.zona) {
+        case 7: return " WIB";
+        case 8: return " WITA";
+        case 9: return " WIT";
+        default: return " W. Setempat";
+    }
+}
+
+std::string ClsKesimpulan::JamIjtima(std::string_view jam, std::string_view menit, const Nilai& tanggal) {
+    const Waktu t = Waktu::dari(static_cast<int64_t>(ValAngka(jam)), static_cast<int64_t>(ValAngka(menit)), 0);
+    const Waktu z = keZona(AmbilTingkat(tanggal, 7), AmbilTingkat(tanggal, 8), t);
+    return rapikan(gabung({t.format("hh.mm") + " WIS, ", z.format("hh.mm"), kataZona()}));
+}
+
+std::string ClsKesimpulan::JamIjtimaTQQ(std::string_view waktuWis, std::string_view waktuZona) {
+    auto baca = [](std::string_view s) { return Waktu::baca(s).value_or(Waktu()).tambah(31).format("hh.mm"); };
+    return baca(waktuWis) + " WIS, " + baca(waktuZona) + kataZona();
+}
+
+std::string ClsKesimpulan::SaatuMaghribS(const Nilai& matahari) {
+    const Nilai nol("00 00 00 00 00 1");
+    const Nilai x = TrigNilai(1, 1, matahari, false).value_or(nol);
+    const Nilai y = KaliNilai(3, 3, 1, x, Nilai("0 0 23 52 0 1")).value_or(nol);
+    const Nilai v = HitungDeret(3, 1, 1, y, 0, nol, 0, nol, 0, nol, 0, nol).value_or(nol);
+    const int menit = AmbilTingkat(v, 3) + AmbilTingkat(v, 4) / 60;
+    std::string out = std::to_string(AmbilTingkat(v, 2)) + "°";
+    if (menit != 0) out += std::to_string(menit) + "'";
+    return out + (AmbilTanda(v) != 0 ? " Di sebelah utara titik barat" : " Di sebelah selatan titik barat");
+}
+
+std::string ClsKesimpulan::AzimutSQ(const Nilai& azimut) {
+    std::string out = std::to_string(AmbilTingkat(azimut, 2)) + "°";
+    if (AmbilTingkat(azimut, 3) != 0) out += std::to_string(AmbilTingkat(azimut, 3)) + "'";
+    return out + (AmbilTanda(azimut) != 0 ? " Di sebelah utara titik barat" : " Di sebelah selatan titik barat");
+}
+
+std::string ClsKesimpulan::Kemiringan(const Nilai& a, const Nilai& b, const Nilai& c, const Nilai& d) {
+    if (a.teks() == b.teks()) return "Terlentang";
+    const double p0 = NilaiDesimal(3, a), p1 = NilaiDesimal(3, b), p2 = NilaiDesimal(3, c), p3 = NilaiDesimal(3, d);
+    if (!(2 * p3 > p2)) return "Tegak lurus";
+    const int s = AmbilTanda(a);
+    if (BulatGenap(p0) > BulatGenap(p1) && AmbilTanda(a) == AmbilTanda(b))
+        return std::string("Miring ke ") + (s == 0 ? "utara" : "selatan");
+    return std::string("Miring ke ") + (s == 0 ? "selatan" : "utara");
+}
+
+std::string ClsKesimpulan::IrtifaHilal(const Nilai& tinggi, bool bertanda) {
+    const int g = bertanda ? AmbilTanda(tinggi) : 1;
+    const std::string meter = FormatTetap(tanpaBuruj(tinggi) * 0.72, 2) + " m";
+    const int m = AmbilTingkat(tinggi, 3) + AmbilTingkat(tinggi, 4) / 30;
+    std::string menit = m == 0 ? "" : std::to_string(m) + "'";
+    int derajat = AmbilTingkat(tinggi, 2);
+    if (menit == "60'") {
+        menit.clear();
+        derajat += 1;
+    }
+    const std::string minus = g == 0 ? "-" : "";
+    return minus + std::to_string(derajat) + "°" + menit + " / " + minus + meter;
+}
+
+std::string ClsKesimpulan::ArahHilal(const Nilai& tempatHilal) {
+    const double x = NilaiDesimal(3, tempatHilal);
+    const double phi = sesi_.tempat.lintangDerajat + sesi_.tempat.lintangMenit / 60.0;
+    return (x - 180 < phi || x > 360 - phi) ? " Di utara" : " Di selatan";
+}
+
+std::string ClsKesimpulan::KeadaanHilal(const Nilai& matahari) {
+    const int b = AmbilTingkat(matahari, 1);
+    const double d = tanpaBuruj(matahari);
+    const char* c1 = ((b == 11 || b == 5) && d > 26) ? "1" : "2";
+    const char* c2 = ((b == 0 || b == 6) && d < 6) ? "1" : "2";
+    const char* c3 = (b >= 3 && b <= 8) ? "2" : "1";
+    if (std::string_view(c1) == "1" && std::string_view(c2) == "1") return "Terlentang";
+    return std::string_view(c3) == "1" ? "Miring ke utara" : "Miring ke selatan";
+}
+
+std::string ClsKesimpulan::MuktsulHilal(const Nilai& lama) {
+    if (AmbilTanda(lama) == 0) return "00.00 Menit";
+    const Waktu w = Waktu::dari(AmbilTingkat(lama, 2), AmbilTingkat(lama, 3), AmbilTingkat(lama, 4));
+    const std::string out = w.format("hh.mm") + " Menit";
+    return out == "00.00 Menit" ? w.format("hh.mm.ss") + " Menit" : out;
+}
+
+Waktu ClsKesimpulan::WaktuGurub(const Nilai& matahari, std::string& gurub, std::string& terbit) {
+    // Field 2 and 3 of the sun's place are its sign and the degree within it.
+    const int derajat = AmbilTingkat(matahari, 2) * 30 + AmbilTingkat(matahari, 3);
+    const SaatMatahari saat = WaktuMaghrib(derajat, 0, sesi_.tempat);
+    const Nilai tanggal(TanggalDariBuruj(matahari).value_or(""));
+    const int bulan = AmbilTingkat(tanggal, 2), hari = AmbilTingkat(tanggal, 3);
+    const std::string zona = kataZona().substr(1);
+    gurub = rapikan(gabung({saat.terbenam.format("hh.mm"), "WIS", keZona(bulan, hari, saat.terbenam).format("hh.mm"), zona}));
+    terbit = rapikan(gabung({saat.terbit.format("hh.mm"), "WIS", keZona(bulan, hari, saat.terbit).format("hh.mm"), zona}));
+    return saat.terbenam;
+}
+
+std::string ClsKesimpulan::NurHilal(const Nilai& nur) {
+    const std::string cm = FormatTetap(NilaiDesimal(3, nur) * 0.72, 3) + " cm";
+    const int m = AmbilTingkat(nur, 3);
+    const int n = AmbilTingkat(nur, 2);
+    std::string pita;
+    switch (m) {
+        case 1: pita = "1/60 Ushbu'  /"; break;
+        case 2: pita = "1/30 Ushbu'  /"; break;
+        case 3: pita = "1/20 Ushbu'  /"; break;
+        case 4: pita = "1/15 Ushbu'  /"; break;
+        case 5: pita = "1/12 Ushbu'  /"; break;
+        default:
+            if (m <= 9) pita = "1/10 Ushbu'  /";
+            else if (m <= 11) pita = "1/6 Ushbu'  /";
+            else if (m <= 14) pita = "1/5 Ushbu'  /";
+            else if (m <= 19) pita = "1/4 Ushbu'  /";
+            else if (m <= 23) pita = "1/3 Ushbu'  /";
+            else if (m <= 29) pita = "2/5 Ushbu'  /";
+            else if (m <= 35) pita = "1/2 Ushbu'  /";
+            else if (m <= 39) pita = "3/5 Ushbu'  /";
+            else if (m <= 43) pita = "2/3 Ushbu'  /";
+            else if (m <= 47) pita = "3/4 Ushbu'  /";
+            else if (m <= 56) pita = "4/5 Ushbu'  /";
+            else pita = std::to_string(n + 1) + "Ushbu'  /";
+    }
+    return pita + " " + cm;
+}
+
+std::string ClsKesimpulan::baris(std::string_view nama, int lintangDerajat, int lintangMenit, int tandaLintang,
+                                 int bujurDerajat, int bujurMenit, int tandaBujur) {
+    return rapikan(gabung({rapikan(std::string(nama)), std::to_string(lintangDerajat) + "°",
+                           std::to_string(lintangMenit) + "'" + (tandaLintang != 0 ? " LU |" : " LS |"),
+                           std::to_string(bujurDerajat) + "°",
+                           std::to_string(bujurMenit) + "'" + (tandaBujur != 0 ? " BT" : " BB")}));
+}
+
+}  // namespace falak

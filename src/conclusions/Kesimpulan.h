@@ -1,0 +1,71 @@
+// ClsKesimpulan: the one object through which a reckoned result becomes dates and words.
+//
+// Its calendar half carries a Hijri date to the Masehi calendar with weekday and Javanese
+// pasaran, and pins a weekday reckoned by a treatise to a calendar date; its hilal half words
+// the time of the ijtima', the height, side, lie, stay and light of the hilal and the sunset,
+// in local apparent time (WIS) and in the place's zone.
+//
+// A date value is ten blank-separated fields: Masehi year, month "MM", day, pasaran index
+// (1 Legi .. 5 Kliwon), weekday index (1 Ahad .. 7 Sabtu), "00 00 00 00 1"; it is read with
+// AmbilTingkat (6 year, 7 month, 8 day, 9 pasaran, 10 weekday).
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "core/Nilai.h"
+#include "core/Sesi.h"
+#include "core/Waktu.h"
+
+namespace falak {
+
+class ClsKesimpulan {
+public:
+    explicit ClsKesimpulan(Sesi& sesi) : sesi_(sesi) {}
+
+    // The day of Hijri month (tahun, bulan) that falls on the reckoned weekday: the last day
+    // of the month, else the first fitting day from the 25th on. Empty when none fits; no
+    // result when the year or month overflows the reckoning.
+    std::optional<Nilai> CariTHM(int32_t tahun, int32_t bulan, int32_t hari);
+    // A Hijri date on the Masehi calendar (the name is kept: it converts from Hijri). Writes
+    // the Masehi year box as every conversion does.
+    std::optional<Nilai> ConvertToHijri(int32_t tahun, int32_t bulan, int32_t tanggal);
+    // Day of the month of a less that of the Hijri date b on the Masehi calendar.
+    int16_t CekHijriHaqiqi(const Nilai& a, const Nilai& b);
+    // A date in words; with bulanHijri the month list's name in front.
+    std::string FullM(const Nilai& tanggal, std::string_view jam, bool bulanHijri);
+    static std::string NamaHari(int hari, std::string_view jam, bool bendera);
+    static std::string NamaBulan(int bulan);
+    static std::string NamaPas(int pasaran);
+    static std::string ManaBln(int bulan);
+
+    // Hilal conclusions.
+    std::string JamIjtima(std::string_view jam, std::string_view menit, const Nilai& tanggal);
+    std::string JamIjtimaTQQ(std::string_view waktuWis, std::string_view waktuZona);
+    std::string SaatuMaghribS(const Nilai& matahari);
+    static std::string AzimutSQ(const Nilai& azimut);
+    static std::string Kemiringan(const Nilai& a, const Nilai& b, const Nilai& c, const Nilai& d);
+    static std::string IrtifaHilal(const Nilai& tinggi, bool bertanda);
+    std::string ArahHilal(const Nilai& tempatHilal);
+    static std::string KeadaanHilal(const Nilai& matahari);
+    static std::string MuktsulHilal(const Nilai& lama);
+    // Sunset for the sun's place " b c" (Buruj and Darojah); the two lines of sunset and
+    // sunrise go to the outputs; returns the raw sunset time.
+    Waktu WaktuGurub(const Nilai& matahari, std::string& gurub, std::string& terbit);
+    static std::string NurHilal(const Nilai& nur);
+
+    // A local apparent time (WIS) moved to the place's zone for a civil month and day.
+    Waktu keZona(int bulan, int hari, Waktu waktu) const;
+    // " WIB", " WITA", " WIT" or " W. Setempat" by the place's zone.
+    std::string kataZona() const;
+    // A place line: name, latitude and longitude with their sides.
+    static std::string baris(std::string_view nama, int lintangDerajat, int lintangMenit, int tandaLintang,
+                             int bujurDerajat, int bujurMenit, int tandaBujur);
+
+private:
+    Sesi& sesi_;
+};
+
+}  // namespace falak

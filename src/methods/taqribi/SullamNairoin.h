@@ -1,0 +1,60 @@
+// Sullam al-Nairoin: the ijtima' and the hilal at sunset for one Hijri month, as the treatise
+// works it by hand from its tables of collected and expanded years and of the months, in
+// value arithmetic, with its markaz at Jakarta (6° 15' S, 106° 52' E).
+//
+// The year rows hold the mean conjunction that ends month 1; the month row of month m adds
+// m - 1 lunations, so month m gives the ijtima' at the end of month m and the hilal that
+// opens month m + 1. The alamah counts weekday and hours from sunset (18:00).
+#pragma once
+
+#include <cstdint>
+
+#include "methods/Baris.h"
+#include "methods/Konteks.h"
+#include "methods/MetodeIjtima.h"
+
+namespace falak {
+
+class SullamNairoin : public MetodeIjtima {
+public:
+    explicit SullamNairoin(Konteks k) : k_(k) {}
+
+    std::string kode() const override { return "SN"; }
+    std::string nama() const override { return "Sullam al-Nairoin"; }
+    std::string awalanLembar() const override { return "IjSN_"; }
+
+    void Hitung(int32_t tahun, int16_t bulan) override { HitungIjtimaSN(tahun, bulan); }
+    std::vector<BarisTercatat> baris() const override;
+
+    // The whole run: the stages, the conclusion, the frame and the cells of the sheet.
+    void HitungIjtimaSN(int32_t tahun, int16_t bulan);
+
+    // The stages, in this order; each reads what the one before it wrote.
+    void JumlahSN(int32_t tahun, int16_t bulan);
+    void TaadilSN();
+    void QomarSN();
+    void IjtimaSN();
+    void HilalSN();
+    void KesimpulanSN();
+    void IsiTabelSN();
+
+    // Rows of the run, kept between runs.
+    Baris<5> Majmu, Mabsut, Syahr, Jumlah;
+    Baris<5> TdlKs, TdlMr, TdlAr, TdlHs;
+    Baris<7> Qomar;
+    Baris<5> BudTaqwim;
+    Baris<5> TdlDq;
+    Baris<6> Manzil;
+    Baris<5> Saah, Ijtima;
+    Baris<7> Hilal;
+    Baris<2> Nur;
+    int32_t Daur = 0;
+    int16_t SisaTahun = 0;
+    int16_t BulanIni = 0;
+
+private:
+    void tulisSel();
+    Konteks k_;
+};
+
+}  // namespace falak
