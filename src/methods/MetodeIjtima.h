@@ -13,6 +13,15 @@
 
 namespace falak {
 
+// What a run concludes, for the lines of a batch: the civil day and the clock time of the
+// ijtima', the hilal's height and the first of the month.
+struct Ringkasan {
+    Nilai tanggalIjtima;       // date value of the day of the ijtima'
+    std::string jamIjtima;     // "hh.mm WIS, hh.mm WIB" as the conclusion words it
+    Nilai tinggiHilal;         // the height as the treatise reckons it
+    Nilai awalBulan;           // date value of the first of the month
+};
+
 class MetodeIjtima {
 public:
     virtual ~MetodeIjtima() = default;
@@ -27,9 +36,12 @@ public:
     const std::vector<std::string>& kesimpulan() const { return kesimpulan_; }
     // Every row of the last run, named as the book names it.
     virtual std::vector<BarisTercatat> baris() const = 0;
+    // The gist of the last run.
+    const Ringkasan& ringkasan() const { return ringkasan_; }
 
 protected:
     std::vector<std::string> kesimpulan_;
+    Ringkasan ringkasan_;
 };
 
 }  // namespace falak

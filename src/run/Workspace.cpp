@@ -61,26 +61,90 @@ bool Workspace::pilihTempat(const std::string& nama) {
     return tempat.has_value();
 }
 
+std::optional<Workspace::Pesan> Workspace::periksaTahun(const std::string& tahunTeks) const {
+    if (tahunTeks.find_first_not_of(' ') == std::string::npos || tahunTeks.find('-') != std::string::npos)
+        return Pesan{"Ojok kesusu..", "Tahun belum diisi.\nSilahkan tentukan tahun sebelum Anda mengakses data."};
+    return std::nullopt;
+}
+
+std::vector<const Kitab*> Workspace::kitabTersedia() {
+    std::vector<const Kitab*> ada;
+    for (const Kitab& k : DaftarKitab())
+        if (metode(k.kodeLembar)) ada.push_back(&k);
+    return ada;
+}
+
+LembarKerja& Workspace::jalankan(const Kitab& kitab, MetodeIjtima& m, int32_t tahun, int bulan) {
+    auto tab = std::make_unique<LembarKerja>();
+    tab->kunci = kitab.awalan + std::to_string(++nomorLembar_);
+    tab->kode = kitab.kodeLembar;
+    tab->kitab = kitab.kode;
+    LembarKerja& ref = *tab;
+    lembar.push_back(std::move(tab));
+    Proses(m, tahun, bulan, ref);
+    return ref;
+}
+
 Workspace::HasilProses Workspace::mnuProsesIjSub(const std::string& kodeKitab, const std::string& tahunTeks,
                                                  int bulan, const std::string& namaTempat) {
-    const std::string& tahun = tahunTeks;
-    if (tahun.find_first_not_of(' ') == std::string::npos || tahun.find('-') != std::string::npos)
-        return {nullptr, Pesan{"Ojok kesusu..", "Tahun belum diisi.\nSilahkan tentukan tahun sebelum Anda mengakses data."}};
+    if (auto pesan = periksaTahun(tahunTeks)) return {nullptr, pesan};
     const Kitab* kitab = CariKitab(kodeKitab);
     MetodeIjtima* m = kitab ? metode(kitab->kodeLembar) : nullptr;
     if (!m)
         return {nullptr, Pesan{"Sabar rek..", "Kitab " + (kitab ? kitab->nama : kodeKitab) + " belum tersedia."}};
-
-    auto tab = std::make_unique<LembarKerja>();
-    tab->kunci = kitab->awalan + std::to_string(++nomorLembar_);
-    tab->kode = kitab->kodeLembar;
-    tab->kitab = kitab->kode;
-    LembarKerja& ref = *tab;
-    lembar.push_back(std::move(tab));
-
     pilihTempat(namaTempat);
-    Proses(*m, BulatGenap32(ValAngka(tahun)).value_or(0), bulan, ref);
-    return {&ref, std::nullopt};
+    return {&jalankan(*kitab, *m, BulatGenap32(ValAngka(tahunTeks)).value_or(0), bulan), std::nullopt};
+}
+
+Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const Kitab*, int>>& runs,
+                                       const std::string& tahunTeks, const std::string& namaTempat) {
+    HasilBatch hasil;
+    if (auto pesan = periksaTahun(tahunTeks)) {
+        hasil.pesan = pesan;
+        return hasil;
+    }
+    pilihTempat(namaTempat);
+    const int32_t tahun = BulatGenap32(ValAngka(tahunTeks)).value_or(0);
+    kemajuan.berhenti = false;
+    kemajuan.mulaiBatch(static_cast<int>(runs.size()));
+    kemajuan.batch = true;
+    for (const auto& [kitab, bulan] : runs) {
+        if (kemajuan.berhenti) {
+            hasil.dihentikan = true;
+            break;
+        }
+        hasil.lembar.push_back(&jalankan(*kitab, *metode(kitab->kodeLembar), tahun, bulan));
+        kemajuan.maju();
+    }
+    kemajuan.batch = false;
+    return hasil;
+}
+
+Workspace::HasilBatch Workspace::mnuProsesAllSub(const std::string& tahunTeks, int bulan,
+                                                 const std::string& namaTempat) {
+    std::vector<std::pair<const Kitab*, int>> runs;
+    for (const Kitab* k : kitabTersedia()) runs.emplace_back(k, bulan);
+    return batch(runs, tahunTeks, namaTempat);
+}
+
+Workspace::HasilBatch Workspace::mnu12BulanSub(const std::string& kodeKitab, const std::string& tahunTeks,
+                                               const std::string& namaTempat) {
+    const Kitab* kitab = CariKitab(kodeKitab);
+    if (!kitab || !metode(kitab->kodeLembar)) {
+        HasilBatch h;
+        h.pesan = Pesan{"Sabar rek..", "Kitab " + (kitab ? kitab->nama : kodeKitab) + " belum tersedia."};
+        return h;
+    }
+    std::vector<std::pair<const Kitab*, int>> runs;
+    for (int bulan = 1; bulan <= 12; ++bulan) runs.emplace_back(kitab, bulan);
+    return batch(runs, tahunTeks, namaTempat);
+}
+
+Workspace::HasilBatch Workspace::duaBelasBulanSemuaKitab(const std::string& tahunTeks, const std::string& namaTempat) {
+    std::vector<std::pair<const Kitab*, int>> runs;
+    for (int bulan = 1; bulan <= 12; ++bulan)
+        for (const Kitab* k : kitabTersedia()) runs.emplace_back(k, bulan);
+    return batch(runs, tahunTeks, namaTempat);
 }
 
 void Workspace::Proses(MetodeIjtima& m, int32_t tahun, int bulan, LembarKerja& tab) {
@@ -95,6 +159,7 @@ void Workspace::Proses(MetodeIjtima& m, int32_t tahun, int bulan, LembarKerja& t
     m.Hitung(tahun, static_cast<int16_t>(bulan));
     tab.kesimpulan = m.kesimpulan();
     tab.baris = m.baris();
+    tab.ringkasan = m.ringkasan();
 }
 
 }  // namespace falak

@@ -30,6 +30,7 @@ struct LembarKerja {
     Sheet lembar;
     std::vector<std::string> kesimpulan;  // the conclusion lines, the heading first
     std::vector<BarisTercatat> baris;     // every row of the run
+    Ringkasan ringkasan;                  // its gist, for the lines of a batch
 };
 
 // A treatise in the dispatch table: its sheet code and what the tree and menus call it.
@@ -67,6 +68,22 @@ public:
     HasilProses mnuProsesIjSub(const std::string& kodeKitab, const std::string& tahunTeks, int bulan,
                                const std::string& namaTempat);
 
+    // The batches: every available treatise for one month (mnuProsesAllSub), one treatise
+    // for the twelve months of a year (mnu12BulanSub), and the twelve months by every
+    // available treatise. Each run makes its sheet; the progress bar moves once a run; the
+    // stop button ends the batch between two runs, keeping the sheets already made.
+    struct HasilBatch {
+        std::vector<LembarKerja*> lembar;
+        bool dihentikan = false;
+        std::optional<Pesan> pesan;
+    };
+    HasilBatch mnuProsesAllSub(const std::string& tahunTeks, int bulan, const std::string& namaTempat);
+    HasilBatch mnu12BulanSub(const std::string& kodeKitab, const std::string& tahunTeks, const std::string& namaTempat);
+    HasilBatch duaBelasBulanSemuaKitab(const std::string& tahunTeks, const std::string& namaTempat);
+
+    // The treatises whose modules exist, in the order of the tree.
+    std::vector<const Kitab*> kitabTersedia();
+
     // The treatise's module by its sheet code, or none when it is not available yet.
     MetodeIjtima* metode(int kodeLembar);
 
@@ -83,8 +100,14 @@ public:
     std::vector<std::unique_ptr<LembarKerja>> lembar;
 
 private:
+    // The year text as the year check reads it; a message when it is not filled in.
+    std::optional<Pesan> periksaTahun(const std::string& tahunTeks) const;
+    // A new sheet for the treatise, and Proses in it.
+    LembarKerja& jalankan(const Kitab& kitab, MetodeIjtima& m, int32_t tahun, int bulan);
     // Proses: one run of the treatise for the current sheet.
     void Proses(MetodeIjtima& m, int32_t tahun, int bulan, LembarKerja& tab);
+    HasilBatch batch(const std::vector<std::pair<const Kitab*, int>>& runs, const std::string& tahunTeks,
+                     const std::string& namaTempat);
 
     std::vector<std::unique_ptr<MetodeIjtima>> metode_;
     int nomorLembar_ = 0;

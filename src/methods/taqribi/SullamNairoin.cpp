@@ -164,7 +164,8 @@ void SullamNairoin::KesimpulanSN() {
     baris[1] = s.namaKitab;
     baris[2] = s.labelKe(0) + ks.FullM(awalBulan, "17", true);
     baris[3] = s.labelKe(1) + ks.FullM(hariIjtima, jamIjtima, false);
-    baris[4] = s.labelKe(2) + ks.JamIjtima(jamIjtima, std::to_string(AmbilTingkat(I, 12)), hariIjtima);
+    const std::string jam = ks.JamIjtima(jamIjtima, std::to_string(AmbilTingkat(I, 12)), hariIjtima);
+    baris[4] = s.labelKe(2) + jam;
     baris[5] = s.labelKe(3) + ks.SaatuMaghribS(BudTaqwim(5));
     baris[6] = s.labelKe(6) + ks.ArahHilal(BudTaqwim(5));
     baris[7] = s.labelKe(5) + ks.KeadaanHilal(BudTaqwim(5));
@@ -180,6 +181,7 @@ void SullamNairoin::KesimpulanSN() {
                                                       static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
                                                       t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur)));
     kesimpulan_.assign(baris.begin() + 1, baris.end());
+    ringkasan_ = {hariIjtima, jam, Hilal(5), awalBulan};
 }
 
 void SullamNairoin::IsiTabelSN() {
