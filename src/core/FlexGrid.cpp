@@ -50,6 +50,10 @@ void ClsFlexGrid::FlexData(const Nilai& nilai, int baris, int kolom, std::initia
     }
 }
 
+void ClsFlexGrid::FlexDataSH(float nilai, int baris, int kolom) {
+    if (lembar_) lembar_->tulis(baris, kolom, CetakAngka32(nilai));
+}
+
 void ClsFlexGrid::FlexTeks(std::string_view teks, int baris, int kolom) {
     if (lembar_) lembar_->tulis(baris, kolom, std::string(teks));
 }

@@ -30,6 +30,10 @@ public:
     // column kolom - 2 (i - 1), printed as a plain whole number; index 15 ends the list.
     void FlexData(const Nilai& nilai, int baris, int kolom, std::initializer_list<int> medan);
 
+    // A decimal cell of the treatises that reckon in 32-bit floats: the number as such a
+    // float prints (at most 7 significant digits, shortest form).
+    void FlexDataSH(float nilai, int baris, int kolom);
+
     // A text in one cell.
     void FlexTeks(std::string_view teks, int baris, int kolom);
 
