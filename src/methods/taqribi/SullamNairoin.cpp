@@ -10,6 +10,7 @@
 #include "core/Manzil.h"
 #include "core/Sesi.h"
 #include "methods/tahqiqi/Taadil.h"
+#include "methods/taqribi/KesimpulanTaqribi.h"
 #include "methods/taqribi/Lembar.h"
 
 namespace falak {
@@ -145,43 +146,15 @@ void SullamNairoin::HilalSN() {
 }
 
 void SullamNairoin::KesimpulanSN() {
-    ClsKesimpulan& ks = k_.kesimpulan;
-    Sesi& s = k_.sesi;
-    const int tahun = AmbilTingkat(s.tanggalPilihan, 6);
-    const int bulan = AmbilTingkat(s.tanggalPilihan, 7);
-    const Nilai& I = Ijtima(5);
-    const std::string jamIjtima = std::to_string(AmbilTingkat(I, 11) + 18);
-
-    // The civil date of the ijtima', and the first of the month: two days after it when the
-    // hilal stands below 2 degrees, else one.
-    Nilai hariIjtima = ks.CariTHM(tahun, bulan, AmbilTingkat(I, 10)).value_or(Nilai());
-    const int d = NilaiDesimal(3, Hilal(5)) < 2 ? 2 : 1;
-    const std::string dd = std::to_string(d);
-    const Nilai tambahHari = AlamahTarkh(3, {"0", "0", dd, dd, dd, "0", "0", "0", "0"}, 1).value_or(Nilai());
-    const Nilai awalBulan = TambahNilai(2, 3, 1, hariIjtima, tambahHari);
-
-    std::vector<std::string> baris(14);
-    baris[1] = s.namaKitab;
-    baris[2] = s.labelKe(0) + ks.FullM(awalBulan, "17", true);
-    baris[3] = s.labelKe(1) + ks.FullM(hariIjtima, jamIjtima, false);
-    const std::string jam = ks.JamIjtima(jamIjtima, std::to_string(AmbilTingkat(I, 12)), hariIjtima);
-    baris[4] = s.labelKe(2) + jam;
-    baris[5] = s.labelKe(3) + ks.SaatuMaghribS(BudTaqwim(5));
-    baris[6] = s.labelKe(6) + ks.ArahHilal(BudTaqwim(5));
-    baris[7] = s.labelKe(5) + ks.KeadaanHilal(BudTaqwim(5));
-    baris[8] = s.labelKe(7) + ks.IrtifaHilal(Hilal(5), true);
-    baris[9] = s.labelKe(8) + ks.MuktsulHilal(Hilal(7));
-    baris[10] = s.labelKe(9) + ks.NurHilal(Nur(2));
-    std::string gurub, terbit;
-    ks.WaktuGurub(Nilai(BurujMatahari(hariIjtima).value_or("")), gurub, terbit);
-    baris[11] = s.labelKe(12) + gurub;
-    baris[12] = s.labelKe(14) + ClsKesimpulan::baris("Jakarta", 6, 15, 0, 106, 52, 1);
-    const Tempat& t = s.tempat;
-    baris[13] = s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
-                                                      static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
-                                                      t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur)));
-    kesimpulan_.assign(baris.begin() + 1, baris.end());
-    ringkasan_ = {hariIjtima, jam, Hilal(5), awalBulan};
+    BahanKesimpulan b;
+    b.ijtima = Ijtima(5);
+    b.tinggi = NilaiDesimal(3, Hilal(5));
+    b.tinggiNilai = Hilal(5);
+    b.matahari = BudTaqwim(5);
+    b.mukts = Hilal(7);
+    b.nur = Nur(2);
+    b.markaz = {"Jakarta", 6, 15, 0, 106, 52, 1};
+    TulisKesimpulanTaqribi(k_, b, kesimpulan_, ringkasan_);
 }
 
 void SullamNairoin::IsiTabelSN() {
