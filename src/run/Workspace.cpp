@@ -6,6 +6,7 @@
 #include "core/Daerah.h"
 #include "core/Koneksi.h"
 #include "methods/taqribi/SullamNairoin.h"
+#include "methods/taqribi/SyamsulHilal.h"
 
 namespace falak {
 
@@ -41,6 +42,7 @@ Workspace::Workspace(ClsConnection& k) : koneksi(k), taadil(k.TRBTaadil, k.TQQTa
     for (listTxt.moveFirst(); !listTxt.eof(); listTxt.moveNext()) sesi.label.push_back(BacaTeks(listTxt, "IsiText"));
     const Konteks konteks{sesi, koneksi, taadil, kesimpulan, grid, kemajuan};
     metode_.push_back(std::make_unique<SullamNairoin>(konteks));
+    metode_.push_back(std::make_unique<SyamsulHilal>(konteks));
 }
 
 Workspace::~Workspace() = default;

@@ -71,6 +71,53 @@ def sullam():
     return f
 
 
+def syamsul_hilal():
+    """Syamsu al-Hilal: a grid of 19 by 12. Its values are decimals, one cell each: the sums
+    of years and months along rows 3 to 6 (Hari at column 9, then leftwards), and three
+    columns of worked steps below them, each value at the left of its label."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    # Top block: the years and the month, and their sum.
+    label("العلامة", 1, 8, 9)
+    for kol, teks in [(7, "الحصة"), (6, "الوسط"), (5, "الخاصة"), (4, "المركز")]:
+        label(teks, 1, kol)
+    label("السنين", 2, 11)
+    label(YAUM, 2, 9)
+    label(SAAH, 2, 8)
+    for kol in (7, 6, 5, 4):
+        label(DARAJAH, 2, kol)
+    label("المجموعة", 3, 10)
+    label("المبسوطة", 4, 10)
+    label("الشهر", 5, 10)
+    label("الجملة", 6, 10, 11)
+
+    # Right: the moon's correction and the sun's true place, then the mansion.
+    label("تعديل القمر", 7, 9, 11)
+    kanan = ["تعديل الخاصة", "تعديل المركز", "المجموع", "الضابط", "الحاصل", "تعديل المركز", "تعديل القمر",
+             "تعديل القمر", "تقويم الشمس", "المنزلة", "اسم المنزلة"]
+    for i, teks in enumerate(kanan):
+        label(teks, 8 + i, 10, 11)
+    # Middle: the hours between the luminaries, then the ijtima' (days beside the hours).
+    label("ساعات البعد", 7, 4, 7)
+    tengah = ["المجموع", "تعديل المقوم", "الباقي", "حصة الساعة", "ساعات البعد"]
+    for i, teks in enumerate(tengah):
+        label(teks, 8 + i, 6, 7)
+    label("الاجتماع", 13, 4, 7)
+    ijtima = ["العلامة", "ساعات البعد", "الاجتماع بالمركز", "فضل الطولين", "الاجتماع ببلد"]
+    for i, teks in enumerate(ijtima):
+        label(teks, 14 + i, 6)
+    # Left: the hilal at sunset.
+    label("الهلال", 7, 0, 2)
+    kiri = ["الغروب", "الاجتماع ببلد", "ما بين الاجتماع والغروب", "الضابط", "ارتفاع الهلال", "الضابط",
+            "مكث الهلال", "عرض القمر", "مكث الهلال", "نور الهلال"]
+    for i, teks in enumerate(kiri):
+        label(teks, 8 + i, 1, 2)
+    return f
+
+
 # The labels of the conclusion lines, read by position (the line writers name the position).
 LABEL = [
     "Awal bulan sesudah ",        # 0  first of the month, after the chosen month's name
@@ -129,7 +176,7 @@ def tulis(nama, kepala, baris):
 
 
 def main():
-    frames = {"SN": sullam()}
+    frames = {"SN": sullam(), "SH": syamsul_hilal()}
     panjang = max(len(v) for v in frames.values())
     kolom = [f"{nama}{x}" for x in frames for nama in ("Nama", "Baris", "Kolom1", "Kolom2")]
     baris = []

@@ -1,0 +1,84 @@
+// Syamsu al-Hilal: the ijtima' and the hilal at sunset for one Hijri month, as the treatise
+// works it, with its markaz at Jepara (110° 40' E).
+//
+// Unlike the other taqribi treatises it does not reckon on value rows. Its elements are
+// decimal degrees and decimal hours in 32-bit floats: a base at the start of year 1, moved by
+// groups of thirty years, then the remaining years and the month from its own tables of
+// plain decimals; its equations come from the nearest row of its own table, without
+// interpolation. Value rows appear only for the place's correction and for the words of the
+// conclusion.
+//
+// The elements, in the order of every row: Hari (weekday, 1 Ahad .. 7 Sabtu), Alamah (hours
+// from the sunset that opens that day), Hishshoh (the moon's distance from its node), Wasath
+// (the sun's mean longitude), Khossyoh (the moon's mean anomaly) and Markaz (the sun's mean
+// anomaly), both anomalies counted from the apogee. The month row of month m adds m
+// lunations, so month m gives the ijtima' at the end of month m and the hilal that opens
+// month m + 1.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "methods/Baris.h"
+#include "methods/Konteks.h"
+#include "methods/MetodeIjtima.h"
+
+namespace falak {
+
+class SyamsulHilal : public MetodeIjtima {
+public:
+    explicit SyamsulHilal(Konteks k) : k_(k) {}
+
+    std::string kode() const override { return "SH"; }
+    std::string nama() const override { return "Syamsu al-Hilal"; }
+    std::string awalanLembar() const override { return "IjSH_"; }
+
+    void Hitung(int32_t tahun, int16_t bulan) override { HitungIjtimaSH(tahun, bulan); }
+    std::vector<BarisTercatat> baris() const override;
+
+    // The whole run: the stages, the conclusion, the frame, the rounding of the rows to three
+    // decimals and the cells of the sheet.
+    void HitungIjtimaSH(int32_t tahun, int16_t bulan);
+    // The stages from the year split to the ijtima' only, without words or sheet.
+    void IjtimaSajaSH(int32_t tahun, int16_t bulan);
+
+    // The stages, in this order; each reads what the one before it wrote.
+    void PokokSH(int32_t tahun, int16_t bulan);
+    void TaadilSH();
+    void QomarSH();
+    void BudSH();
+    void MuqowwamSH();
+    void ManzilSH();
+    void SaahSH();
+    void IjtimaSH();
+    void HilalSH();
+    void KesimpulanSH();
+    void IsiTabelSH();
+    // Every cell of the rows kept to three decimals, through the text "0.000".
+    void TigaDesimalSH();
+
+    // Rows of the run, kept between runs.
+    Baris<6, float> SHMajmu, SHMabsut, SHSyahr, SHJumlah;
+    Baris<7, float> SHQomar;
+    Baris<2, float> SHBud;
+    Baris<5, float> SHSaah;
+    Baris<5, float> SHIjtima;
+    Baris<5, std::string> SHIjtimaTeks;  // the day counts beside cells 1, 3 and 5 of SHIjtima
+    Baris<10, float> SHHilal;
+    int32_t SHDawr = 0;       // groups of thirty years
+    int16_t SHSisaTahun = 0;  // the years left over
+    int16_t SHBulan = 0;
+    // What the table gave.
+    float SHTdlKhossyoh = 0, SHTdlMarkaz = 0, SHTdlArdl = 0, SHTdlHishshoh = 0, SHTdlMuqowwam = 0;
+    float SHManzil = 0;          // degrees travelled in the mansion
+    std::string SHNamaManzil;    // the mansion's name
+    std::string SHHariText;      // the last whole count of days or Buruj handed back
+    int16_t SHTandaBujur = 0;    // 1 when the place lies east of the markaz
+    Nilai SHIjtimaAlamah;        // the ijtima' at the place as an alamah value, for the words
+
+private:
+    void tulisSel();
+    Konteks k_;
+};
+
+}  // namespace falak
