@@ -89,10 +89,16 @@ FrmDaerah::FrmDaerah(ClsConnection& koneksi, QWidget* induk) : QDialog(induk), k
     auto* isian = new QFormLayout;
     isian->addRow(QStringLiteral("&Nama"), nama_);
     isian->addRow(QStringLiteral("Nama &tampil"), namaTampil_);
-    isian->addRow(QStringLiteral("&Lintang"), sudut(lintangDerajat_, lintangMenit_, arahLintang_));
-    isian->addRow(QStringLiteral("&Bujur"), sudut(bujurDerajat_, bujurMenit_, arahBujur_));
+    // A row of several boxes needs a label of its own to take the first box as its buddy.
+    auto label = [](const QString& teks, QWidget* kawan) {
+        auto* l = new QLabel(teks);
+        l->setBuddy(kawan);
+        return l;
+    };
+    isian->addRow(label(QStringLiteral("&Lintang"), lintangDerajat_), sudut(lintangDerajat_, lintangMenit_, arahLintang_));
+    isian->addRow(label(QStringLiteral("&Bujur"), bujurDerajat_), sudut(bujurDerajat_, bujurMenit_, arahBujur_));
     isian->addRow(QStringLiteral("&Zona waktu"), zona_);
-    isian->addRow(QStringLiteral("Ke&tinggian (m)"), tinggi_);
+    isian->addRow(QStringLiteral("Ketinggian (&m)"), tinggi_);
 
     tambah_ = new QPushButton(QStringLiteral("T&ambah"));
     tambah_->setObjectName("btnTambah");
