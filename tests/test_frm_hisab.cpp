@@ -2,6 +2,7 @@
 // treatise, read the tab, the grid and the conclusion; stop a batch; and the picture that
 // falak-gui --screenshot saves.
 #include <QComboBox>
+#include <QDate>
 #include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -125,7 +126,7 @@ private slots:
         // Today's Hijri year, and the Masehi year in which its chosen month begins.
         const int tahunH = cari<QLineEdit>(*w, "RichTahunH")->text().toInt();
         const int tahunM = cari<QLineEdit>(*w, "RichTahunM")->text().toInt();
-        QVERIFY(tahunH >= 1446);
+        QVERIFY(qAbs(tahunM - QDate::currentDate().year()) <= 1);
         QVERIFY(qAbs(tahunM - (622 + tahunH * 354.367 / 365.2425)) <= 1);
 
         // The tree has the treatises of the session in the order of the tree table; one that
