@@ -1,7 +1,6 @@
 #include "ui/FrmDaerah.h"
 
 #include <QComboBox>
-#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QHBoxLayout>
 #include <QHeaderView>

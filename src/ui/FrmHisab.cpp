@@ -1,7 +1,6 @@
 #include "ui/FrmHisab.h"
 
 #include <QAction>
-#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QDate>
@@ -439,9 +438,8 @@ void FrmHisab::selesaiBatch(const Workspace::HasilBatch& hasil) {
 }
 
 void FrmHisab::tampilkanPesan(const Workspace::Pesan& pesan) {
-    // The year check stops the command outright; anything else only asks for patience.
-    const bool tahun = pesan.judul == "Ojok kesusu..";
-    BukaPesan(this, tahun ? QMessageBox::Critical : QMessageBox::Information, q(pesan.judul), q(pesan.teks));
+    // Every message of the session ends the command it answers: the stop sign, one button.
+    BukaPesan(this, QMessageBox::Critical, q(pesan.judul), q(pesan.teks));
 }
 
 void FrmHisab::tambahTab(const LembarKerja& lembar) {
