@@ -27,6 +27,8 @@ bool Pekerja::mulai(Tugas tugas) {
     {
         std::lock_guard<std::mutex> kunci(mutex_);
         ditahan_ = false;
+        // A stop asked of the last job is not one for this job.
+        kemajuan_.berhenti = false;
     }
     QMetaObject::invokeMethod(
         penerima_.get(),
