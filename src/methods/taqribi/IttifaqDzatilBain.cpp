@@ -97,7 +97,7 @@ void IttifaqDzatilBain::WaktuIDB1() {
 
 Nilai IttifaqDzatilBain::hariIjtima() {
     const Nilai& I = Ijtima(5);
-    if (AmbilTingkat(I, 6) == 0) return Nilai();
+    if (TanggalMasehi[1].kosongTeks() || AmbilTingkat(I, 6) == 0) return Nilai();
     char bulan[8];
     std::snprintf(bulan, sizeof bulan, "%02d", AmbilTingkat(I, 7));
     const int pasaran = AmbilTingkat(I, 9) == 0 ? 5 : AmbilTingkat(I, 9);
