@@ -42,7 +42,9 @@ IttifaqDzatilBain::IttifaqDzatilBain(Konteks k, const DataKitabFR& data) : Fathu
 
 Nilai IttifaqDzatilBain::alamahSyahr(const Tabel& syahru) const {
     auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, kolom); };
-    return AlamahTarkh(1, {sel("mshTh"), sel("mshBln"), sel("mshTgl"), sel("Pasaran"), sel("alHari"), sel("alSah"),
+    // The date fields are days counted in months of 30: kept as the table gives them (a month
+    // row of no days must not be finished into a month before month 0).
+    return AlamahTarkh(-1, {sel("mshTh"), sel("mshBln"), sel("mshTgl"), sel("Pasaran"), sel("alHari"), sel("alSah"),
                            sel("alQoh"), "0", "0"},
                        1)
         .value_or(Syahr(1));
