@@ -218,6 +218,19 @@ TEST_F(BukuFR, ARunPaintsItsSheetAndReportsItsRows) {
         EXPECT_EQ(tab.lembar.sel(4, 39), std::string(kode) == "FR" ? "14" : (std::string(kode) == "TZ" ? "7" : "4"))
             << kode;
     }
+    // The books count the month that begins: the ijtima' at the end of Dzulhijjah 1445 is
+    // their Muharram of 1446 (its single years: 1455 mod 30 = 15).
+    FathurRouf& fr = kitab<FathurRouf>(6);
+    const auto h = ws->mnuProsesIjSub("FR", "1445", 12, "Semarang");
+    EXPECT_EQ(fr.Bulan, 1);
+    EXPECT_EQ(h.lembar->lembar.sel(4, 39), "15");
+    EXPECT_NE(h.lembar->lembar.sel(0, 0).find("1446"), std::string::npos);
+    ws->mnuProsesIjSub("FR", "1445", 8, "Semarang");
+    EXPECT_EQ(fr.Bulan, 9);
+    // The first of the month is the day of the ijtima' moved on by 25 or 49 hours.
+    const auto awal = fr.AwalBulan(1445, 8);
+    ASSERT_TRUE(awal);
+    EXPECT_EQ(AmbilTingkat(*awal, 11), 1);
     // Tadzkirotu's longer moon's correction moves the place's name three rows down.
     const LembarKerja& tz = *ws->lembar[2];
     EXPECT_EQ(tz.lembar.sel(30, 39), "Semarang");

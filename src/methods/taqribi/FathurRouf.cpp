@@ -237,6 +237,17 @@ std::string FathurRouf::judulKesimpulan() const { return k_.sesi.namaKitab; }
 
 void FathurRouf::hitungTahap(int32_t tahun, int16_t bulan) {
     Kemajuan& maju = k_.kemajuan;
+    // These books count the month whose beginning they seek: their row of month m holds the
+    // lunation that opens month m (their mean ijtima' of month m runs some 13 hours ahead of
+    // the true conjunction that opens it, as Sullam's of month m does of the one that ends
+    // it). The ijtima' at the end of month m is therefore their month m + 1, and after
+    // Dzulhijjah their Muharram of the next year.
+    if (bulan >= 12) {
+        tahun += 1;
+        bulan = 1;
+    } else {
+        bulan = static_cast<int16_t>(bulan + 1);
+    }
     PokokFR(tahun, bulan);
     maju.langkah();
     TaadilFR();
@@ -289,7 +300,7 @@ void FathurRouf::IsiTabelFR() {
     g.FlexSetting(40, 40, 490, 500, 2500, true);
     IsiBingkai(g, k_.koneksi.Names, data_.kode);
     const int tahun = AmbilTingkat(s.tanggalPilihan, 6);
-    g.FlexNama(JudulLembarArab(s.tempat.namaTampil, tahun, Bulan + 1), 0, 0, 39);
+    g.FlexNama(JudulLembarArab(s.tempat.namaTampil, tahun, Bulan + (Bulan == 1 ? 12 : 0)), 0, 0, 39);
     g.FlexTeks(std::to_string(Dawr * data_.pembagi.g), 3, 39);
     g.FlexTeks(std::to_string(SisaTahun), 4, 39);
     g.FlexTeks(NamaBulanArab(Bulan), 5, 39);

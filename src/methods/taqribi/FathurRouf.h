@@ -13,7 +13,9 @@
 // then the Hishshoh (the moon's distance from its node), the Wasath (the sun's mean place),
 // the Khossyoh (the moon's anomaly) and the Markaz (the sun's anomaly). A treatise without a
 // Hishshoh has four cells. The grouped years plus the single years give the mean ijtima'
-// that opens month 1 of the year Tahun; the month row of month m adds m - 1 lunations.
+// that opens month 1 of the year Tahun; the month row of month m adds m - 1 lunations. So the
+// books count the month that begins: a run for the ijtima' at the end of month m (as the
+// driver asks every treatise) reckons their month m + 1.
 #pragma once
 
 #include <array>
