@@ -149,7 +149,7 @@ int main() {
     Workspace ws(koneksi);
 
     std::printf("1. The books' mean ijtima' (alamah) against the true conjunction, hours (book - true)\n");
-    std::printf("%-5s %-9s %22s %22s\n", "kitab", "markaz", "to the one ending m", "to the one opening m");
+    std::printf("%-5s %-9s %-38s %-38s\n", "kitab", "markaz", "to the one ending m", "to the one opening m");
     for (const Markaz& mk : kMarkaz) {
         ws.pilihTempat(mk.tempat);
         MetodeIjtima* m = ws.metode(CariKitab(mk.kitab)->kodeLembar);
@@ -176,12 +176,52 @@ int main() {
                 }
             }
         }
-        std::printf("%-5s %-9s   mean %+6.2f sd-ish %5.2f   mean %+6.2f |mean| %5.2f\n", mk.kitab, mk.tempat,
-                    akhir.rata(), akhir.rataMutlak(), awal.rata(), awal.rataMutlak());
+        std::printf("%-5s %-9s mean %+6.2f, |.| %5.2f, largest %+7.2f  mean %+6.2f, |.| %5.2f, largest %+7.2f\n",
+                    mk.kitab, mk.tempat, akhir.rata(), akhir.rataMutlak(), akhir.maks, awal.rata(), awal.rataMutlak(),
+                    awal.maks);
+    }
+
+    std::printf("\n1b. Ittifaq's Masehi date of its mean ijtima' (date step, tdThMasehi, the months' Masehi days)\n");
+    {
+        ws.pilihTempat("Surabaya");
+        auto* idb = dynamic_cast<FathurRouf*>(ws.metode(11));
+        Tabel& syahru = koneksi.TRBSyahru;
+        Stat beda;
+        int hariSalah = 0;
+        for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
+            idb->PokokFR(tahun, 1);
+            for (int bulan = 1; bulan <= 12; ++bulan) {
+                if (!syahru.cari("Cari", bulan)) continue;
+                // The month row: its Masehi days from the table, its weekday and hours those of
+                // m - 1 mean lunations.
+                const double hari = (bulan - 1) * kBulan;
+                const int64_t utuh = static_cast<int64_t>(std::floor(hari));
+                const double jam = (hari - utuh) * 24;
+                const Nilai syahr = AlamahTarkh(
+                    -1, MedanAlamah{0, BacaBulat(syahru, "mshBln"), BacaBulat(syahru, "mshTgl"), BacaBulat(syahru, "Pasaran"),
+                                    utuh % 7, static_cast<int64_t>(jam), static_cast<int64_t>((jam - std::floor(jam)) * 60), 0, 0},
+                    1);
+                const auto t = ws.taadil.Taadil(idb->Majmu(1), idb->Mabsut(1), syahr, Nilai("00 00 00 00 00 1"), idb->Dawr,
+                                                idb->SisaTahun, Nilai(idb->data().mabda[0]), Nilai(idb->data().tambah[0]));
+                if (t[0].kosongTeks()) continue;
+                const double bukuLokal = jdSipil(t[0]) - 0.25 + (AmbilTingkat(t[0], 11) + AmbilTingkat(t[0], 12) / 60.0) / 24;
+                const double jd = ijtimaAkhirBulan(bulan == 1 ? tahun - 1 : tahun, bulan == 1 ? 12 : bulan - 1);
+                const double d = (bukuLokal - (jd + (112 + 46 / 60.0) / 360)) * 24;
+                beda.tambah(d);
+                if (std::fabs(d - 12.94) > 24) ++hariSalah;
+            }
+        }
+        std::printf("date and hour of the mean ijtima' - true conjunction opening the month: mean %+.2f h, "
+                    "mean |.| %.2f h, largest %+.2f h; a day or more off the offset: %d of %d\n",
+                    beda.rata(), beda.rataMutlak(), beda.maks, hariSalah, beda.n);
     }
 
     std::printf("\n2. The reckoning as the program runs it, every month of %d-%d H at the markaz\n", kTahunAwal,
                 kTahunAkhir);
+    const bool lengkap = koneksi.TRBSyahru.indeksKolom("alHari") >= 0 && koneksi.TRBTaadil.indeksKolom("tdKsJah") >= 0 &&
+                         koneksi.TRBTaadil.indeksKolom("mnJah") >= 0;
+    if (!lengkap)
+        std::printf("(the month and equation tables lack Sullam's columns: these figures do not yet measure the books)\n");
     std::printf("%-5s %-9s | ijtima' - true conj. (h)  | height - true (deg)     | first of month\n", "kitab",
                 "markaz");
     std::printf("%-5s %-9s | mean   |mean|   largest | mean   |mean|  largest  | same  earlier  later\n", "", "");
