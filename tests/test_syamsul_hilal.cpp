@@ -215,4 +215,13 @@ TEST_F(SesiSH, OneWholeMonthWorkedByHand) {
     EXPECT_EQ(l.sel(12, 0), "0.795");
     EXPECT_EQ(l.sel(17, 9), "3.906006");
     EXPECT_EQ(l.sel(18, 9), "بطن الحوت");
+
+    // The first of the month alone: the day of the ijtima' and 49 hours.
+    const auto awal = sh->AwalBulan(1445, 8);
+    ASSERT_TRUE(awal);
+    EXPECT_EQ(AmbilTingkat(*awal, 6), 2024);
+    EXPECT_EQ(AmbilTingkat(*awal, 7), 3);
+    EXPECT_EQ(AmbilTingkat(*awal, 8), 12);
+    EXPECT_EQ(AmbilTingkat(*awal, 10), 3);
+    EXPECT_EQ(AmbilTingkat(*awal, 11), 1);
 }

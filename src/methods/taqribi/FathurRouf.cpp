@@ -3,7 +3,6 @@
 #include <cstdlib>
 #include <string>
 
-#include "conclusions/Kesimpulan.h"
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
@@ -216,20 +215,12 @@ void FathurRouf::tinggiDanMukts() {
     Nur(2) = TambahNilai(3, 3, 1, Nur(1), Hilal(7));
 }
 
-Nilai FathurRouf::hariIjtima() {
-    const Sesi& s = k_.sesi;
-    return k_.kesimpulan.CariTHM(AmbilTingkat(s.tanggalPilihan, 6), AmbilTingkat(s.tanggalPilihan, 7),
-                                 AmbilTingkat(Ijtima(5), 10))
-        .value_or(Nilai());
-}
+Nilai FathurRouf::hariIjtima() { return HariIjtimaTaqribi(k_, Ijtima(5)); }
 
 FathurRouf::HariHasil FathurRouf::hariHasil() {
     HariHasil h;
     h.ijtima = hariIjtima();
-    // Two days after the ijtima' when the hilal stands below 2 degrees, else one.
-    const std::string d = NilaiDesimal(3, Hilal(5)) < 2 ? "2" : "1";
-    const Nilai tambahHari = AlamahTarkh(3, {"0", "0", d, d, d, "0", "0", "0", "0"}, 1).value_or(Nilai());
-    h.awal = TambahNilai(2, 3, 1, h.ijtima, tambahHari);
+    h.awal = AwalBulanTaqribi(h.ijtima, NilaiDesimal(3, Hilal(5)));
     return h;
 }
 
@@ -261,37 +252,19 @@ void FathurRouf::hitungTahap(int32_t tahun, int16_t bulan) {
 }
 
 void FathurRouf::KesimpulanFR() {
-    ClsKesimpulan& ks = k_.kesimpulan;
-    Sesi& s = k_.sesi;
-    const Nilai& I = Ijtima(5);
-    const std::string jam = std::to_string(AmbilTingkat(I, 11) + 18);
     const HariHasil h = hariHasil();
-
-    std::vector<std::string> baris(13);
-    baris[0] = judulKesimpulan();
-    baris[1] = s.labelKe(0) + ks.FullM(h.awal, "17", true);
-    baris[2] = s.labelKe(1) + ks.FullM(h.ijtima, jam, false);
-    const std::string jamIjtima = ks.JamIjtima(jam, std::to_string(AmbilTingkat(I, 12)), h.ijtima);
-    baris[3] = s.labelKe(2) + jamIjtima;
-    baris[4] = s.labelKe(3) + ks.SaatuMaghribS(BudTaqwim(3));
-    baris[5] = s.labelKe(6) + ks.ArahHilal(BudTaqwim(3));
-    baris[6] = s.labelKe(5) + ks.KeadaanHilal(BudTaqwim(3));
-    baris[7] = s.labelKe(7) + ks.IrtifaHilal(Hilal(5), true);
-    baris[8] = s.labelKe(8) + ks.MuktsulHilal(Hilal(7));
-    baris[9] = s.labelKe(9) + ks.NurHilal(Nur(2));
-    const Nilai& hariGurub = data_.gurubHariIjtima ? h.ijtima : h.awal;
-    std::string gurub, terbit;
-    ks.WaktuGurub(Nilai(BurujMatahari(hariGurub).value_or("")), gurub, terbit);
-    baris[10] = s.labelKe(12) + gurub;
-    const TitikMarkaz& m = data_.markazKesimpulan;
-    baris[11] = s.labelKe(14) + ClsKesimpulan::baris(m.nama, m.lintangDerajat, m.lintangMenit, m.tandaLintang,
-                                                      m.bujurDerajat, m.bujurMenit, m.tandaBujur);
-    const Tempat& t = s.tempat;
-    baris[12] = s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
-                                                      static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
-                                                      t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur)));
-    kesimpulan_ = std::move(baris);
-    ringkasan_ = {h.ijtima, jamIjtima, Hilal(5), h.awal};
+    BahanKesimpulan b;
+    b.judul = judulKesimpulan();
+    b.ijtima = Ijtima(5);
+    b.hariIjtima = h.ijtima;
+    b.awalBulan = h.awal;
+    b.tinggi = Hilal(5);
+    b.matahari = BudTaqwim(3);
+    b.mukts = Hilal(7);
+    b.nur = Nur(2);
+    b.gurubHariIjtima = data_.gurubHariIjtima;
+    b.markaz = data_.markazKesimpulan;
+    TulisKesimpulanTaqribi(k_, b, kesimpulan_, ringkasan_);
 }
 
 void FathurRouf::IsiTabelFR() {
@@ -362,10 +335,7 @@ void FathurRouf::HitungRingkas(int32_t tahun, int16_t bulan) {
 std::optional<Nilai> FathurRouf::AwalBulanFR(int32_t tahun, int16_t bulan) {
     k_.sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
     hitungTahap(tahun, bulan);
-    const Nilai hari = hariIjtima();
-    if (hari.kosongTeks()) return std::nullopt;
-    const char* jam = NilaiDesimal(3, Hilal(5)) < 2 ? "49" : "25";
-    return TambahNilai(2, 3, 1, hari, Nilai(std::string("00 00 00 00 00 ") + jam + " 00 00 00 1"));
+    return AwalBulanJam(hariIjtima(), NilaiDesimal(3, Hilal(5)));
 }
 
 std::vector<BarisTercatat> FathurRouf::baris() const {

@@ -26,17 +26,11 @@
 #include "methods/Baris.h"
 #include "methods/Konteks.h"
 #include "methods/MetodeIjtima.h"
+#include "methods/taqribi/KesimpulanTaqribi.h"
 
 namespace falak {
 
 class Tabel;
-
-// A place as a conclusion line names it.
-struct TitikMarkaz {
-    const char* nama;
-    int lintangDerajat, lintangMenit, tandaLintang;
-    int bujurDerajat, bujurMenit, tandaBujur;
-};
 
 // How a treatise splits the years since its base into groups and single years. With
 // Y = Tahun - 1 and G the years of a group:

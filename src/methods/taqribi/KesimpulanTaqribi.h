@@ -1,8 +1,9 @@
 // The conclusion of a taqribi treatise: the thirteen lines that put its reckoned ijtima' and
 // hilal into dates and words. Every taqribi writer fills the same lines in the same order;
-// they differ only in the numbers they hand over and in their markaz.
+// they differ only in the numbers they hand over, their heading and their markaz.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,30 +13,39 @@
 
 namespace falak {
 
-// A place line's fields, as the writer prints them (flags: non-zero is north, east).
-struct BarisMarkaz {
-    std::string nama;
-    int lintangDerajat = 0, lintangMenit = 0, tandaLintang = 0;
-    int bujurDerajat = 0, bujurMenit = 0, tandaBujur = 1;
+// A place as a conclusion line names it (flags: non-zero is north, east).
+struct TitikMarkaz {
+    const char* nama;
+    int lintangDerajat, lintangMenit, tandaLintang;
+    int bujurDerajat, bujurMenit, tandaBujur;
 };
 
 // What a treatise hands its conclusion writer.
 struct BahanKesimpulan {
+    std::string judul;     // the heading: the treatise's name
     Nilai ijtima;          // alamah value of the ijtima' at the place: weekday and hours from sunset
-    double tinggi = 0;     // the hilal's height in degrees, for the first of the month
-    Nilai tinggiNilai;     // the same as a value, worded with its sign
+    Nilai hariIjtima;      // date value of the day of the ijtima'
+    Nilai awalBulan;       // date value of the first of the month
+    Nilai tinggi;          // the hilal's height, worded with its sign
     Nilai matahari;        // the sun's place at the ijtima'
     Nilai mukts;           // the hilal's stay
     Nilai nur;             // the hilal's light
-    bool gurubAwalBulan = false;  // sunset of the first of the month, else of the day of the ijtima'
-    BarisMarkaz markaz;
+    bool gurubHariIjtima = false;  // sunset of the day of the ijtima', else of the first of the month
+    TitikMarkaz markaz{};
 };
+
+// The civil date of the ijtima': the day of the chosen Hijri month that falls on the reckoned
+// weekday (an empty value when none does).
+Nilai HariIjtimaTaqribi(Konteks& k, const Nilai& ijtima);
 
 // The first of the month: two days after the ijtima' when the hilal stands below 2 degrees,
 // else one; the day, the pasaran and the weekday all move.
 Nilai AwalBulanTaqribi(const Nilai& hariIjtima, double tinggi);
+// The same as the month's first-day operation reckons it: the day of the ijtima' advanced by
+// 25 hours, or 49 (a date value whose hour reads 01); none without a day of the ijtima'.
+std::optional<Nilai> AwalBulanJam(const Nilai& hariIjtima, double tinggi);
 
-// Writes the lines, the treatise's name first, and the gist of the run.
+// Writes the lines, the heading first, and the gist of the run.
 void TulisKesimpulanTaqribi(Konteks& k, const BahanKesimpulan& bahan, std::vector<std::string>& baris,
                             Ringkasan& ringkasan);
 

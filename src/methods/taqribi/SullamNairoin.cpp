@@ -3,7 +3,6 @@
 #include <array>
 #include <string>
 
-#include "conclusions/Kesimpulan.h"
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
@@ -147,12 +146,15 @@ void SullamNairoin::HilalSN() {
 
 void SullamNairoin::KesimpulanSN() {
     BahanKesimpulan b;
+    b.judul = k_.sesi.namaKitab;
     b.ijtima = Ijtima(5);
-    b.tinggi = NilaiDesimal(3, Hilal(5));
-    b.tinggiNilai = Hilal(5);
+    b.hariIjtima = HariIjtimaTaqribi(k_, Ijtima(5));
+    b.awalBulan = AwalBulanTaqribi(b.hariIjtima, NilaiDesimal(3, Hilal(5)));
+    b.tinggi = Hilal(5);
     b.matahari = BudTaqwim(5);
     b.mukts = Hilal(7);
     b.nur = Nur(2);
+    b.gurubHariIjtima = true;
     b.markaz = {"Jakarta", 6, 15, 0, 106, 52, 1};
     TulisKesimpulanTaqribi(k_, b, kesimpulan_, ringkasan_);
 }
@@ -239,10 +241,7 @@ void SullamNairoin::HitungRingkas(int32_t tahun, int16_t bulan) {
 std::optional<Nilai> SullamNairoin::AwalBulan(int32_t tahun, int16_t bulan) {
     k_.sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
     tahap(tahun, bulan);
-    const auto hari = k_.kesimpulan.CariTHM(tahun, bulan, AmbilTingkat(Ijtima(5), 10));
-    if (!hari || hari->kosongTeks()) return std::nullopt;
-    const char* jam = NilaiDesimal(3, Hilal(5)) < 2 ? "49" : "25";
-    return TambahNilai(2, 3, 1, *hari, Nilai(std::string("00 00 00 00 00 ") + jam + " 00 00 00 1"));
+    return AwalBulanJam(HariIjtimaTaqribi(k_, Ijtima(5)), NilaiDesimal(3, Hilal(5)));
 }
 
 std::vector<BarisTercatat> SullamNairoin::baris() const {

@@ -187,13 +187,14 @@ void SyamsulHilal::HilalSH() {
 
 void SyamsulHilal::KesimpulanSH() {
     BahanKesimpulan b;
+    b.judul = k_.sesi.namaKitab;
     b.ijtima = SHIjtimaAlamah;
-    b.tinggi = SHHilal(5);
-    b.tinggiNilai = keNilai(SHHilal(5));
+    b.hariIjtima = HariIjtimaTaqribi(k_, SHIjtimaAlamah);
+    b.awalBulan = AwalBulanTaqribi(b.hariIjtima, SHHilal(5));
+    b.tinggi = keNilai(SHHilal(5));
     b.matahari = keNilai(SHBud(2));
     b.mukts = keNilai(SHHilal(7));
     b.nur = keNilai(SHHilal(9), SHHilal(9) > 180 ? 0 : 1);
-    b.gurubAwalBulan = true;
     // The markaz line as the treatise's writer has it, its latitude flagged 1.
     b.markaz = {"Jepara", 6, 36, 1, kBujurMarkazDerajat, kBujurMarkazMenit, 1};
     TulisKesimpulanTaqribi(k_, b, kesimpulan_, ringkasan_);
@@ -259,6 +260,19 @@ void SyamsulHilal::IjtimaSajaSH(int32_t tahun, int16_t bulan) {
     ManzilSH();
     SaahSH();
     IjtimaSH();
+}
+
+void SyamsulHilal::HitungRingkas(int32_t tahun, int16_t bulan) {
+    IjtimaSajaSH(tahun, bulan);
+    HilalSH();
+    KesimpulanSH();
+}
+
+std::optional<Nilai> SyamsulHilal::AwalBulan(int32_t tahun, int16_t bulan) {
+    k_.sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
+    IjtimaSajaSH(tahun, bulan);
+    HilalSH();
+    return AwalBulanJam(HariIjtimaTaqribi(k_, SHIjtimaAlamah), SHHilal(5));
 }
 
 void SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan) {

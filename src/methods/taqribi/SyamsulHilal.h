@@ -17,6 +17,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "methods/Baris.h"
@@ -34,6 +35,10 @@ public:
     std::string awalanLembar() const override { return "IjSH_"; }
 
     void Hitung(int32_t tahun, int16_t bulan) override { HitungIjtimaSH(tahun, bulan); }
+    // The run with its conclusion and no sheet; only the whole run rounds its rows.
+    void HitungRingkas(int32_t tahun, int16_t bulan) override;
+    // The day of the ijtima' advanced by 25 hours, or 49 when the hilal stands below 2 degrees.
+    std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override;
     std::vector<BarisTercatat> baris() const override;
 
     // The whole run: the stages, the conclusion, the frame, the rounding of the rows to three
