@@ -4,7 +4,7 @@
 // For each treatise at its own markaz, over every month of the Hijri years 1440 to 1446:
 //
 //  1. The mean ijtima' of the book (the alamah of its year and month rows, month m adding m - 1
-//     mean lunations) against the true conjunction, as weekday and hours from sunset (18:00
+//     mean lunations to month 1; Syamsu al-Hilal's month 1 adds one itself) against the true conjunction, as weekday and hours from sunset (18:00
 //     local mean time): the offset that the book's equations must take back, and which
 //     lunation the book's month m counts (the one that ends month m, or the one that opens it).
 //  2. The whole reckoning as the program runs it (the first of the month without a sheet): its
@@ -31,6 +31,7 @@
 #include "core/Koneksi.h"
 #include "methods/taqribi/FathurRouf.h"
 #include "methods/taqribi/SullamNairoin.h"
+#include "methods/taqribi/SyamsulHilal.h"
 #include "run/Workspace.h"
 
 using namespace falak;
@@ -50,7 +51,8 @@ const Markaz kMarkaz[] = {{"SN", "Jakarta", -(6 + 15 / 60.0), 106 + 52 / 60.0},
                           {"IDB1", "Surabaya", -(7 + 15 / 60.0), 112 + 46 / 60.0},
                           {"TZ", "Semarang", -(6 + 56 / 60.0), 110 + 24 / 60.0},
                           {"KW1", "Makkah", 21 + 25 / 60.0, 39 + 57 / 60.0},
-                          {"FK", "Sampang", -(7 + 11 / 60.0), 113 + 15 / 60.0}};
+                          {"FK", "Sampang", -(7 + 11 / 60.0), 113 + 15 / 60.0},
+                          {"SH", "Jepara", -(6 + 36 / 60.0), 110 + 40 / 60.0}};
 
 double bujurBeda(double a, double b) { return std::remainder(a - b, 360.0); }
 
@@ -156,17 +158,23 @@ int main() {
         Stat akhir, awal;
         for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
             Nilai alamah;
-            if (auto* sn = dynamic_cast<SullamNairoin*>(m)) {
-                sn->JumlahSN(tahun, 1);
-                alamah = sn->Jumlah(1);
+            double jam1;
+            if (auto* sh = dynamic_cast<SyamsulHilal*>(m)) {
+                // Its month 1 already adds one lunation, its alamah is in decimal hours.
+                sh->PokokSH(tahun, 1);
+                jam1 = jamMinggu(static_cast<int>(sh->SHJumlah(1)), sh->SHJumlah(2));
             } else {
-                auto* fr = dynamic_cast<FathurRouf*>(m);
-                fr->PokokFR(tahun, 1);
-                alamah = fr->Jumlah(1);
+                if (auto* sn = dynamic_cast<SullamNairoin*>(m)) {
+                    sn->JumlahSN(tahun, 1);
+                    alamah = sn->Jumlah(1);
+                } else {
+                    auto* fr = dynamic_cast<FathurRouf*>(m);
+                    fr->PokokFR(tahun, 1);
+                    alamah = fr->Jumlah(1);
+                }
+                jam1 = jamMinggu(AmbilTingkat(alamah, 10), AmbilTingkat(alamah, 11) + AmbilTingkat(alamah, 12) / 60.0 +
+                                                               AmbilTingkat(alamah, 13) / 3600.0);
             }
-            const double jam1 = jamMinggu(AmbilTingkat(alamah, 10), AmbilTingkat(alamah, 11) +
-                                                                       AmbilTingkat(alamah, 12) / 60.0 +
-                                                                       AmbilTingkat(alamah, 13) / 3600.0);
             for (int bulan = 1; bulan <= 12; ++bulan) {
                 const double buku = jam1 + (bulan - 1) * kBulan * 24;
                 for (auto [stat, b] : {std::pair{&akhir, bulan}, {&awal, bulan - 1}}) {
@@ -242,8 +250,10 @@ int main() {
                 const double bukuJd = jam >= 18 ? bukuLokal : bukuLokal + 1;
                 ij.tambah((bukuJd - waktuHakiki(jdSejati, mk.bujur)) * 24);
 
-                const double ut = bukuJd - mk.bujur / 360;
-                const double gurub = gurubSesudah(ut, mk.lintang, mk.bujur);
+                // The sunset of the book's civil day of the ijtima', the one its height is for: not
+                // the first after its instant, which is the next day's when the book puts the
+                // ijtima' between the true sunset and its own 18:00.
+                const double gurub = gurubSesudah(jdSipil(g.tanggalIjtima) - mk.bujur / 360, mk.lintang, mk.bujur);
                 const double tinggiBuku = (AmbilTanda(g.tinggiHilal) == 0 ? -1 : 1) * NilaiDesimal(3, g.tinggiHilal);
                 tg.tambah(tinggiBuku - tinggiGeosentris(gurub, mk.lintang, mk.bujur));
 
