@@ -219,8 +219,12 @@ def check_calibration(falak):
                 subprocess.run([sys.executable, os.path.join(HERE, "tables.py")] + options, check=True)
                 a = run_sullam(falak, 1434, 8, "Jakarta", data)
                 b = run_sullam(falak, 1437, 8, "Kawunganten", data)
+                with open(os.path.join(data, "TRBTaadil.csv"), encoding="utf-8") as f:
+                    day_equation = [int(x) for x in re.findall(r"^(?:[^,]*,){9}(-?\d+),", f.read(), re.M)]
             zone = re.search(r"WIS, +(\d\d\.\d\d)", b["kesimpulan"][3]).group(1)
             mark = " <- 12.11" if clock_text(a["rows"]["Ijtima"][4]).startswith("12.11") else ""
+            if min(day_equation) < 0:
+                mark += " (day's equation below zero: %d')" % min(day_equation)
             print("  offset %4.1f': 1434 %s height %s | 1437 %s WIS = %s WIB%s"
                   % (offset, clock_text(a["rows"]["Ijtima"][4]), arc_text(a["rows"]["Hilal"][4]),
                      clock_text(b["rows"]["Ijtima"][4]), zone, mark))
