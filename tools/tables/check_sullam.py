@@ -5,6 +5,10 @@
         The printed collected and expanded year rows against the treatise's constants (no table
         is involved; plain integer arithmetic of the treatise's rules).
 
+    python3 tools/tables/check_sullam.py bases
+        Which conjunction each taqribi treatise's year rows and these month rows give: its alamah
+        sum against Meeus's mean new moon, in local mean time of its markaz.
+
     python3 tools/tables/check_sullam.py examples --falak BUILD/bin/falak
         The two published reckonings, run by falak itself on the tables in data/.
 
@@ -231,6 +235,68 @@ def check_calibration(falak):
 
 
 # ---------------------------------------------------------------------------------------------
+# Which conjunction a treatise's year rows and these month rows give
+# ---------------------------------------------------------------------------------------------
+
+# Each treatise's alamah base and group row (minutes of the week), how it splits a year into
+# groups and single years, whether its single years take the rounded minute step, and the
+# longitude of its markaz.
+def _week(day, hour, minute, second=0):
+    return day * 1440 + hour * 60 + minute + second / 60
+
+
+def _split(group, years_before_groups, first_year_offset):
+    def split(year):
+        y = year - first_year_offset
+        return (y + years_before_groups) // group, (y + years_before_groups) % group
+    return split
+
+
+TREATISE_BASES = {
+    "Sullam al-Nairoin": (_week(7, 14, 4), _week(1, 16, 5), _split(10, 10, 0), True, 106 + 52 / 60),
+    "Fathu al-Ro'uf al-Mannan": (_week(3, 10, 58), _week(5, 0, 15), _split(30, 10, 1), False, 110 + 24 / 60),
+    "Tadzkirotu al-Ikhwan": (_week(6, 0, 37, 33), _week(5, 0, 15), _split(30, 3, 1), False, 110 + 24 / 60),
+    "Ittifaq Dzatu al-Bain": (_week(5, 3, 12), _week(5, 0, 15), _split(30, 0, 1), False, 112 + 46 / 60),
+    "Faidlu al-Karim": (_week(5, 3, 14, 27), _week(5, 0, 15), _split(30, 0, 1), False, 113 + 15 / 60),
+    "Khulashotu al-Wafiyah": (_week(2, 12, 8), _week(1, 16, 5), _split(10, 10, 1), False, 39 + 57 / 60),
+}
+
+
+def single_years_alamah(n, rounded):
+    step = round(n * 30 / 60 + 0.1) if rounded else n * 30 // 60
+    return _week(4 * n, 8 * n, 48 * n + step) if n else 0
+
+
+def mean_new_moon_in_alamah(k, longitude):
+    """Meeus's mean new moon k as minutes of the alamah week at a meridian (local mean time)."""
+    t = k / 1236.85
+    ut = 2451550.09766 + 29.530588861 * k + 0.00015437 * t * t - DELTA_T
+    return ((ut + longitude / 360 + 0.25 + 1.5) % 7 + 1) * 1440
+
+
+def check_bases():
+    """For every treatise: its alamah sum for month m set beside the mean new moons that end and
+    that open month m, in local mean time of its markaz, over 1440 to 1446 H."""
+    import csv
+
+    with open(os.path.join(DATA, "TRBSyahru.csv"), encoding="utf-8") as f:
+        months = {int(r["Cari"]): _week(*(int(r[c]) for c in ("alHari", "alSah", "alQoh", "alNii"))) for r in csv.DictReader(f)}
+    print("alamah sum after the mean new moon, hours (mean and spread over 84 months):")
+    for name, (base, group, split, rounded, longitude) in TREATISE_BASES.items():
+        ends, opens = [], []
+        for year in range(1440, 1447):
+            groups, single = split(year)
+            for month in range(1, 13):
+                alamah = (base + groups * group + single_years_alamah(single, rounded) + months[month]) % WEEK
+                # Meeus's lunation k of the conjunction that ends month m of the year.
+                k = round((((year - 1) * 12 + month) * 29.530589 + 1948439.5 - 2451550.09766) / 29.530588861)
+                for k_, out in ((k, ends), (k - 1, opens)):
+                    out.append(((alamah - mean_new_moon_in_alamah(k_, longitude) + WEEK / 2) % WEEK - WEEK / 2) / 60)
+        print("  %-26s ends month m: %+7.2f (%+.2f..%+.2f)   opens month m: %+7.2f (%+.2f..%+.2f)"
+              % (name, statistics.mean(ends), min(ends), max(ends), statistics.mean(opens), min(opens), max(opens)))
+
+
+# ---------------------------------------------------------------------------------------------
 # Against the sky
 # ---------------------------------------------------------------------------------------------
 
@@ -374,12 +440,14 @@ def check_zone_table(efemeris=None):
 
 def main(argv=None):
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("what", choices=["years", "examples", "calibrate", "sky", "zone"])
+    parser.add_argument("what", choices=["years", "bases", "examples", "calibrate", "sky", "zone"])
     parser.add_argument("--falak", help="the falak program (built from this tree)")
     parser.add_argument("--efemeris", help="the checking tool built from efemeris.c")
     args = parser.parse_args(argv)
     if args.what == "years":
         check_years()
+    elif args.what == "bases":
+        check_bases()
     elif args.what == "examples":
         check_examples(args.falak)
     elif args.what == "calibrate":
