@@ -280,8 +280,14 @@ def check_bases():
     import csv
 
     with open(os.path.join(DATA, "TRBSyahru.csv"), encoding="utf-8") as f:
-        months = {int(r["Cari"]): _week(*(int(r[c]) for c in ("alHari", "alSah", "alQoh", "alNii"))) for r in csv.DictReader(f)}
-    print("alamah sum after the mean new moon, hours (mean and spread over 84 months):")
+        # The treatises read the month's alamah to the minute.
+        months = {int(r["Cari"]): _week(*(int(r[c]) for c in ("alHari", "alSah", "alQoh"))) for r in csv.DictReader(f)}
+    def hm(hours):
+        sign = "-" if hours < 0 else "+"
+        minutes = abs(hours) * 60
+        return "%s%d h %04.1f m" % (sign, minutes // 60, minutes % 60)
+
+    print("alamah sum after the mean new moon (mean, least and greatest over 84 months):")
     for name, (base, group, split, rounded, longitude) in TREATISE_BASES.items():
         ends, opens = [], []
         for year in range(1440, 1447):
@@ -292,8 +298,9 @@ def check_bases():
                 k = round((((year - 1) * 12 + month) * 29.530589 + 1948439.5 - 2451550.09766) / 29.530588861)
                 for k_, out in ((k, ends), (k - 1, opens)):
                     out.append(((alamah - mean_new_moon_in_alamah(k_, longitude) + WEEK / 2) % WEEK - WEEK / 2) / 60)
-        print("  %-26s ends month m: %+7.2f (%+.2f..%+.2f)   opens month m: %+7.2f (%+.2f..%+.2f)"
-              % (name, statistics.mean(ends), min(ends), max(ends), statistics.mean(opens), min(opens), max(opens)))
+        print("  %-26s ends month m: %s (%s, %s)   opens month m: %s (%s, %s)"
+              % (name, hm(statistics.mean(ends)), hm(min(ends)), hm(max(ends)),
+                 hm(statistics.mean(opens)), hm(min(opens)), hm(max(opens))))
 
 
 # ---------------------------------------------------------------------------------------------
