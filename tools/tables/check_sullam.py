@@ -353,10 +353,9 @@ def to_universal(sky, apparent_local):
 DELTA_T = 69.2 / 86400  # Terrestrial less Universal Time over these years, days
 
 
-def alamah_lead(pair):
+def alamah_lead(alamah, near):
     """Minutes by which the treatise's mean conjunction (its alamah sum) runs after Meeus's mean
-    new moon of the same lunation, both in local mean time of Jakarta."""
-    alamah, near = pair
+    new moon of the lunation near the given day, both in local mean time of Jakarta."""
     f = fields(alamah)
     alamah_minutes = f[4] * 1440 + f[5] * 60 + f[6] + f[7] / 60
     k = round((near - 2451550.09766) / 29.530588861)
@@ -375,14 +374,14 @@ def check_sky(falak, efemeris):
         for month in range(1, 13):
             result = run_sullam(falak, year, month, "Jakarta")
             apparent, height, civil = sullam_moment(result)
-            r_alamah = result["rows"]["Jumlah"][0]
             ut = to_universal(sky, apparent)
             true = sky.ask("conj", ut)[0]
-            r_alamah = (r_alamah, true)
+            lead = alamah_lead(result["rows"]["Jumlah"][0], true)
+            # The treatise's hilal stands at the sunset that ends the day it names.
             noon = julian_day(*civil, 12 - JAKARTA_LONGITUDE / 15)
             sunset = sky.ask("sunset", noon, JAKARTA_LONGITUDE, JAKARTA_LATITUDE)[0]
-            moon, sun, elong, topo = sky.ask("alt", sunset, JAKARTA_LONGITUDE, JAKARTA_LATITUDE)
-            rows.append((year, month, civil, (ut - true) * 1440, height, moon, topo, alamah_lead(r_alamah)))
+            moon, _sun, _elongation, topo = sky.ask("alt", sunset, JAKARTA_LONGITUDE, JAKARTA_LATITUDE)
+            rows.append((year, month, civil, (ut - true) * 1440, height, moon, topo, lead))
     print("H year m  civil day    Sullam-true  Sullam height  geocentric  topocentric  alamah-mean NM")
     for year, month, civil, dt, h, moon, topo, lead in rows:
         print("%d %2d  %04d-%02d-%02d   %7.1f m     %6.2f°      %6.2f°     %6.2f°     %6.1f m"
