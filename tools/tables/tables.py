@@ -6,7 +6,9 @@
 
 The astronomy lives in model.py; this file turns it into rows and columns. Every number written
 comes from a function below and the parameters at the top; data/README.md tells the meaning of
-every column. Only the Python standard library is needed.
+every column. Columns that other generators write into the same tables (such as tdThMasehi,
+from taqribi_fr.py) are kept as the files hold them. Only the Python standard library is
+needed.
 """
 
 import argparse
@@ -108,8 +110,51 @@ def rounded_fields(value, count):
     return list(reversed(fields))
 
 
+def read_csv(path):
+    """Header and rows of a table file, or None when there is none."""
+    if not os.path.exists(path):
+        return None
+    with open(path, encoding="utf-8-sig", newline="") as f:
+        table = [row for row in csv.reader(f) if row]
+    return table[0], table[1:]
+
+
+def merge_other_columns(path, header, rows):
+    """Keeps what other generators wrote into the same table.
+
+    The columns of header are this generator's; any other column of the file already there is
+    kept, after these, with its cells matched by the key (the first column). Rows of the file
+    whose key this generator does not write are kept at the end, in their order, with this
+    generator's columns empty.
+    """
+    existing = read_csv(path)
+    if existing is None:
+        return header, rows
+    old_header, old_rows = existing
+    old_key = old_header.index(header[0])
+    others = [i for i, name in enumerate(old_header) if name not in header]
+    by_key = {}
+    for row in old_rows:
+        by_key.setdefault(row[old_key], row)
+    merged = []
+    written = set()
+    for row in rows:
+        key = str(row[0])
+        written.add(key)
+        old = by_key.get(key, [])
+        merged.append(list(row) + [old[i] if i < len(old) else "" for i in others])
+    for row in old_rows:
+        if row[old_key] not in written:
+            # A key of another generator only: this generator's columns stay empty in it.
+            mine = [row[old_key]] + [""] * (len(header) - 1)
+            merged.append(mine + [row[i] if i < len(row) else "" for i in others])
+            written.add(row[old_key])
+    return header + [old_header[i] for i in others], merged
+
+
 def write_csv(path, header, rows):
     """UTF-8, comma-separated, quoted only where needed, LF line ends."""
+    header, rows = merge_other_columns(path, header, rows)
     buffer = io.StringIO()
     writer = csv.writer(buffer, lineterminator="\n", quoting=csv.QUOTE_MINIMAL)
     writer.writerow(header)
