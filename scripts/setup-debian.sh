@@ -2,7 +2,10 @@
 # Installs with apt-get what a fresh Debian machine lacks to build and test falak.
 set -eu
 
-PAKET="build-essential cmake pkg-config googletest libgtest-dev libbenchmark-dev"
+# Qt 6 for the desktop program, and the fonts its sheets name: Amiri for the Arabic frames,
+# DejaVu Sans for the Latin ones (fontconfig finds them, also on the offscreen platform).
+PAKET="build-essential cmake pkg-config googletest libgtest-dev libbenchmark-dev
+  qt6-base-dev fontconfig fonts-hosny-amiri fonts-dejavu-core"
 
 kurang=""
 for p in $PAKET; do

@@ -176,21 +176,38 @@ TEST(OperMasehi, LeapDayTestWithJanuaryAndFebruaryInTheYearBefore) {
     EXPECT_FALSE(ClsTaadil::OperMasehi(Nilai("2024 13 10 00 00 00 00 00 00 1")));
 }
 
-TEST(Taadil, MasehiDateFromTheRowsCorrectedByTheTable) {
-    Meja m("Cari,tdThMasehi\n15,2\n");
+// The date step of the treatises whose alamah carries a Masehi date: base Kamis Kliwon 15 July
+// 622 (Julian) at 3 h 12 m after sunset, a group of 10631 days written as 29 years and a month.
+// One group on lands on 15 August 651 and runs 8 days beyond it (JDN 1948439 + 10631 =
+// 1959070 against 1959062); one group back lands on 15 June 593, 9 days short.
+TEST(Taadil, MasehiDateOfTheGroupsSettledOnTheReckonedWeekday) {
+    Meja m("Cari,tdThMasehi\n1,8\n359,-9\n");
+    const Nilai mabda("622 07 15 00 05 03 12 00 00 1"), tambah("029 01 00 01 05 00 15 00 00 1");
+    const Nilai nol("000 00 00 00 00 00 00 00 00 1");
     const Nilai saah("00 05 30 00 00 1");
-    const Nilai kosong("000 00 00 00 00 00 00 00 00 1");
-    const Nilai syahr("003 02 05 02 00 00 00 00 00 1");
-    // Days 10 + 5 = 15 read 2 days off; 2023 is no leap year.
-    auto r = m.taadil.Taadil(Nilai("2020 01 10 01 00 00 00 00 00 1"), kosong, syahr, saah);
-    EXPECT_EQ(r[0].teks(), "2023 03 13 03 00 05 00 00 00 1");
-    EXPECT_EQ(r[1].teks(), "2023 03 13 03 00 05 00 00 00 1");
-    // In a leap year past February the second line drops a day more.
-    r = m.taadil.Taadil(Nilai("2021 01 10 01 00 00 00 00 00 1"), kosong, syahr, saah);
-    EXPECT_EQ(r[1].teks(), "2024 03 12 03 00 05 00 00 00 1");
-    // A day sum without a row is not corrected.
-    r = m.taadil.Taadil(Nilai("2020 01 11 01 00 00 00 00 00 1"), kosong, syahr, saah);
-    EXPECT_EQ(r[0].teks(), "2023 03 16 03 00 05 00 00 00 1");
+
+    // Selasa Legi 23 August 651 at 3 h 27 m; less 5 h 30 m is Senin Kliwon 22 August, 21 h 57 m.
+    auto r = m.taadil.Taadil(Nilai("0000 00 00 01 03 03 27 00 00 1"), nol, nol, saah, 1, 0, mabda, tambah);
+    EXPECT_EQ(r[0].teks(), "651 08 23 01 03 03 27 00 00 1");
+    EXPECT_EQ(r[1].teks(), "651 08 22 00 02 21 57 00 00 1");
+
+    // A weekday one later moves the date with it.
+    r = m.taadil.Taadil(Nilai("0000 00 00 01 04 03 27 00 00 1"), nol, nol, saah, 1, 0, mabda, tambah);
+    EXPECT_EQ(r[0].teks(), "651 08 24 02 04 03 27 00 00 1");
+
+    // The month row adds its days (one month of 30 and 29 days: two lunations, weekday 3 on).
+    r = m.taadil.Taadil(Nilai("0000 00 00 01 03 03 27 00 00 1"), nol, Nilai("000 01 29 04 03 12 44 00 00 1"), saah,
+                        1, 0, mabda, tambah);
+    EXPECT_EQ(r[0].teks(), "651 10 21 00 06 16 11 00 00 1");
+
+    // Groups taken off read their key from the top of the table: Sabtu Wage 6 June 593.
+    r = m.taadil.Taadil(Nilai("0000 00 00 04 00 02 57 00 00 1"), nol, nol, saah, -1, 0, mabda, tambah);
+    EXPECT_EQ(r[0].teks(), "593 06 06 04 00 02 57 00 00 1");
+
+    // Without a row for the count of groups there is no date.
+    r = m.taadil.Taadil(nol, nol, nol, saah, 2, 0, mabda, tambah);
+    EXPECT_TRUE(r[0].kosongTeks());
+    EXPECT_TRUE(r[1].kosongTeks());
 }
 
 TEST(TaadilKhusf, SignFromTheSumOfThreeValues) {

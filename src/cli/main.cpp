@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "cli/Kalkulator.h"
+#include "cli/PerintahBatch.h"
 #include "cli/PerintahHisab.h"
 #include "cli/PerintahTempat.h"
 
@@ -16,7 +17,9 @@ const std::string kBantuan =
                 "  falak nilai OPERASI...          kalkulator nilai (mis. 'tambah;3;3;1;00 10 00 00 00 1;00 20 00 00 00 1')\n"
                 "  falak nilai --batch             operasi satu per baris dari masukan baku\n"
                 "  falak hisab --kitab SN --tahun 1445 --bulan 8 [--markaz NAMA] [--json]\n"
-                "                                  ijtima' dan hilal akhir bulan itu menurut satu kitab\n") +
+                "                                  ijtima' dan hilal akhir bulan itu menurut satu kitab\n"
+                "                                  (kitab: SN, FR, IDB1, SH, TZ, KW1, FK)\n") +
+    falak::cli::kBantuanBatch +
     falak::cli::kBantuanTempat;
 
 }  // namespace
@@ -31,6 +34,8 @@ int main(int argc, char** argv) {
     argumen.erase(argumen.begin());
     if (perintah == "nilai") return falak::cli::perintahNilai(argumen, std::cin, std::cout, std::cerr);
     if (perintah == "hisab") return falak::cli::perintahHisab(argumen, std::cout, std::cerr);
+    if (perintah == "semua") return falak::cli::perintahSemua(argumen, falak::CariLokasiData(), std::cout, std::cerr);
+    if (perintah == "setahun") return falak::cli::perintahSetahun(argumen, falak::CariLokasiData(), std::cout, std::cerr);
     if (perintah == "tempat") return falak::cli::perintahTempat(argumen, falak::CariLokasiData(), std::cout, std::cerr);
     std::cerr << "falak: perintah \"" << perintah << "\" tidak dikenal\n\n" << kBantuan;
     return 2;

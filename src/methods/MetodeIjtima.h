@@ -32,6 +32,17 @@ public:
 
     // The whole run with its conclusion and its sheet.
     virtual void Hitung(int32_t tahun, int16_t bulan) = 0;
+    // The run with its conclusion but without any sheet, for the batches. A module that does
+    // not say otherwise runs whole: with no sheet selected its cell writers write nothing.
+    virtual void HitungRingkas(int32_t tahun, int16_t bulan) { Hitung(tahun, bulan); }
+    // The first of the month that the ijtima' at the end of month `bulan` opens, as a date
+    // value, by the reckoning stages alone (no conclusion, no sheet); none when the run could
+    // not place the ijtima' on the calendar. By default: the conclusion's first of the month.
+    virtual std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) {
+        HitungRingkas(tahun, bulan);
+        if (ringkasan_.awalBulan.kosongTeks()) return std::nullopt;
+        return ringkasan_.awalBulan;
+    }
     // The conclusion lines of the last run, line 0 the heading.
     const std::vector<std::string>& kesimpulan() const { return kesimpulan_; }
     // Every row of the last run, named as the book names it.

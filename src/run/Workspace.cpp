@@ -5,7 +5,12 @@
 #include "core/Angka.h"
 #include "core/Daerah.h"
 #include "core/Koneksi.h"
+#include "methods/taqribi/FaidlulKarim.h"
+#include "methods/taqribi/FathurRouf.h"
+#include "methods/taqribi/IttifaqDzatilBain.h"
+#include "methods/taqribi/KhulashohWafiyah.h"
 #include "methods/taqribi/SullamNairoin.h"
+#include "methods/taqribi/TadzkirotulIkhwan.h"
 
 namespace falak {
 
@@ -41,6 +46,11 @@ Workspace::Workspace(ClsConnection& k) : koneksi(k), taadil(k.TRBTaadil, k.TQQTa
     for (listTxt.moveFirst(); !listTxt.eof(); listTxt.moveNext()) sesi.label.push_back(BacaTeks(listTxt, "IsiText"));
     const Konteks konteks{sesi, koneksi, taadil, kesimpulan, grid, kemajuan};
     metode_.push_back(std::make_unique<SullamNairoin>(konteks));
+    metode_.push_back(std::make_unique<FathurRouf>(konteks));
+    metode_.push_back(std::make_unique<IttifaqDzatilBain>(konteks));
+    metode_.push_back(std::make_unique<TadzkirotulIkhwan>(konteks));
+    metode_.push_back(std::make_unique<KhulashohWafiyah>(konteks));
+    metode_.push_back(std::make_unique<FaidlulKarim>(konteks));
 }
 
 Workspace::~Workspace() = default;
@@ -97,7 +107,8 @@ Workspace::HasilProses Workspace::mnuProsesIjSub(const std::string& kodeKitab, c
 }
 
 Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const Kitab*, int>>& runs,
-                                       const std::string& tahunTeks, const std::string& namaTempat) {
+                                       const std::string& tahunTeks, const std::string& namaTempat,
+                                       Keluaran keluaran) {
     HasilBatch hasil;
     if (auto pesan = periksaTahun(tahunTeks)) {
         hasil.pesan = pesan;
@@ -113,7 +124,15 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const Kitab*,
             hasil.dihentikan = true;
             break;
         }
-        hasil.lembar.push_back(&jalankan(*kitab, *metode(kitab->kodeLembar), tahun, bulan));
+        MetodeIjtima& m = *metode(kitab->kodeLembar);
+        if (keluaran == Keluaran::Lembar) {
+            hasil.lembar.push_back(&jalankan(*kitab, m, tahun, bulan));
+        } else {
+            siapkan(m, tahun, bulan, kitab->kodeLembar, kitab->awalan);
+            grid.pilih(nullptr);
+            m.HitungRingkas(tahun, static_cast<int16_t>(bulan));
+            hasil.ringkas.push_back({kitab, tahun, bulan, m.kesimpulan(), m.ringkasan()});
+        }
         kemajuan.maju();
     }
     kemajuan.batch = false;
@@ -121,14 +140,14 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const Kitab*,
 }
 
 Workspace::HasilBatch Workspace::mnuProsesAllSub(const std::string& tahunTeks, int bulan,
-                                                 const std::string& namaTempat) {
+                                                 const std::string& namaTempat, Keluaran keluaran) {
     std::vector<std::pair<const Kitab*, int>> runs;
     for (const Kitab* k : kitabTersedia()) runs.emplace_back(k, bulan);
-    return batch(runs, tahunTeks, namaTempat);
+    return batch(runs, tahunTeks, namaTempat, keluaran);
 }
 
 Workspace::HasilBatch Workspace::mnu12BulanSub(const std::string& kodeKitab, const std::string& tahunTeks,
-                                               const std::string& namaTempat) {
+                                               const std::string& namaTempat, Keluaran keluaran) {
     const Kitab* kitab = CariKitab(kodeKitab);
     if (!kitab || !metode(kitab->kodeLembar)) {
         HasilBatch h;
@@ -137,24 +156,29 @@ Workspace::HasilBatch Workspace::mnu12BulanSub(const std::string& kodeKitab, con
     }
     std::vector<std::pair<const Kitab*, int>> runs;
     for (int bulan = 1; bulan <= 12; ++bulan) runs.emplace_back(kitab, bulan);
-    return batch(runs, tahunTeks, namaTempat);
+    return batch(runs, tahunTeks, namaTempat, keluaran);
 }
 
-Workspace::HasilBatch Workspace::duaBelasBulanSemuaKitab(const std::string& tahunTeks, const std::string& namaTempat) {
+Workspace::HasilBatch Workspace::duaBelasBulanSemuaKitab(const std::string& tahunTeks, const std::string& namaTempat,
+                                                         Keluaran keluaran) {
     std::vector<std::pair<const Kitab*, int>> runs;
     for (int bulan = 1; bulan <= 12; ++bulan)
         for (const Kitab* k : kitabTersedia()) runs.emplace_back(k, bulan);
-    return batch(runs, tahunTeks, namaTempat);
+    return batch(runs, tahunTeks, namaTempat, keluaran);
 }
 
-void Workspace::Proses(MetodeIjtima& m, int32_t tahun, int bulan, LembarKerja& tab) {
+void Workspace::siapkan(const MetodeIjtima& m, int32_t tahun, int bulan, int kode, const std::string& kunci) {
     sesi.tahunHijri = CetakAngka(tahun);
     sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
     sesi.barisBulan = std::clamp(bulan - 1, 0, 11);
-    tab.judul = "Hisab Awal Bulan " + std::to_string(tahun) + " H. " + std::to_string(bulan);
-    sesi.kodeLembar = tab.kode;
-    sesi.kunciTab = tab.kunci;
+    sesi.kodeLembar = kode;
+    sesi.kunciTab = kunci;
     sesi.namaKitab = m.nama();
+}
+
+void Workspace::Proses(MetodeIjtima& m, int32_t tahun, int bulan, LembarKerja& tab) {
+    siapkan(m, tahun, bulan, tab.kode, tab.kunci);
+    tab.judul = "Hisab Awal Bulan " + std::to_string(tahun) + " H. " + std::to_string(bulan);
     grid.pilih(&tab.lembar);
     m.Hitung(tahun, static_cast<int16_t>(bulan));
     tab.kesimpulan = m.kesimpulan();

@@ -70,16 +70,31 @@ public:
 
     // The batches: every available treatise for one month (mnuProsesAllSub), one treatise
     // for the twelve months of a year (mnu12BulanSub), and the twelve months by every
-    // available treatise. Each run makes its sheet; the progress bar moves once a run; the
-    // stop button ends the batch between two runs, keeping the sheets already made.
+    // available treatise. With Keluaran::Lembar each run makes its sheet; with
+    // Keluaran::Ringkas no sheet is made or painted and each run leaves its conclusion and
+    // its gist only. The progress bar (Kemajuan's callback) moves once a run; the stop flag
+    // (Kemajuan::berhenti, which another thread may raise) ends the batch between two runs,
+    // keeping what was already made.
+    enum class Keluaran { Lembar, Ringkas };
+    struct HasilRun {
+        const Kitab* kitab = nullptr;
+        int32_t tahun = 0;
+        int bulan = 0;
+        std::vector<std::string> kesimpulan;
+        Ringkasan ringkasan;
+    };
     struct HasilBatch {
         std::vector<LembarKerja*> lembar;
+        std::vector<HasilRun> ringkas;
         bool dihentikan = false;
         std::optional<Pesan> pesan;
     };
-    HasilBatch mnuProsesAllSub(const std::string& tahunTeks, int bulan, const std::string& namaTempat);
-    HasilBatch mnu12BulanSub(const std::string& kodeKitab, const std::string& tahunTeks, const std::string& namaTempat);
-    HasilBatch duaBelasBulanSemuaKitab(const std::string& tahunTeks, const std::string& namaTempat);
+    HasilBatch mnuProsesAllSub(const std::string& tahunTeks, int bulan, const std::string& namaTempat,
+                               Keluaran keluaran = Keluaran::Lembar);
+    HasilBatch mnu12BulanSub(const std::string& kodeKitab, const std::string& tahunTeks, const std::string& namaTempat,
+                             Keluaran keluaran = Keluaran::Lembar);
+    HasilBatch duaBelasBulanSemuaKitab(const std::string& tahunTeks, const std::string& namaTempat,
+                                       Keluaran keluaran = Keluaran::Lembar);
 
     // The treatises whose modules exist, in the order of the tree.
     std::vector<const Kitab*> kitabTersedia();
@@ -106,8 +121,10 @@ private:
     LembarKerja& jalankan(const Kitab& kitab, MetodeIjtima& m, int32_t tahun, int bulan);
     // Proses: one run of the treatise for the current sheet.
     void Proses(MetodeIjtima& m, int32_t tahun, int bulan, LembarKerja& tab);
+    // The run state that Proses sets before a run: the chosen date, the month row, the sheet.
+    void siapkan(const MetodeIjtima& m, int32_t tahun, int bulan, int kode, const std::string& kunci);
     HasilBatch batch(const std::vector<std::pair<const Kitab*, int>>& runs, const std::string& tahunTeks,
-                     const std::string& namaTempat);
+                     const std::string& namaTempat, Keluaran keluaran);
 
     std::vector<std::unique_ptr<MetodeIjtima>> metode_;
     int nomorLembar_ = 0;

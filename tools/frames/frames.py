@@ -71,6 +71,67 @@ def sullam():
     return f
 
 
+def fathur(sel=5, qomar=7, latitude=True, waktu=False):
+    """Fathu al-Ro'uf al-Mannan and the treatises on its skeleton: a grid of 40 by 40. sel is 5,
+    or 4 for a book without the Hishshoh; qomar the cells of the moon's correction (7, or 10 when
+    its factor is a product); latitude whether the moon's latitude is worked; waktu whether the
+    place and time of the hilal follow (Ittifaq Dzatu al-Bain and Faidlu al-Karim)."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    nama = ["العلامة", "الحصة", "الوسط", "الخاصة", "المركز"]
+    if sel == 4:
+        nama = ["العلامة", "الوسط", "الخاصة", "المركز"]
+    for i, teks in enumerate(nama):
+        label(teks, 1, 33 - 6 * i, 37 - 6 * i)
+    for kol, teks in [(37, YAUM), (35, SAAH), (33, DAQIQAH)]:
+        label(teks, 2, kol)
+    for awal in [31 - 6 * i for i in range(sel - 1)]:
+        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH)):
+            label(teks, 2, awal - 2 * i)
+    label("السنين", 2, 39)
+    label("المجموعة", 3, 38)
+    label("المبسوطة", 4, 38)
+    label("الشهر", 5, 38)
+    label("الجملة", 6, 38, 39)
+
+    for awal in (37, 19, 9):
+        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH, TSANIYAH, TSALITSAH)):
+            label(teks, 7, awal - 2 * i)
+
+    if qomar == 7:
+        bulan = ["تعديل الخاصة", "تعديل المركز", "المجموع", "الضابط", "الحاصل", "تعديل المركز", "تعديل القمر"]
+    else:
+        bulan = ["تعديل الخاصة", "تعديل المركز", "المجموع", "حصة الساعة", "الضابط", "الحاصل", "المجموع",
+                 "الحاصل", "تعديل المركز", "تعديل القمر"]
+    kanan = bulan + ["الوسط", "تعديل القمر", "تقويم الشمس",
+                     "تعديل القمر", "دقائق تعديل الأيام", "الباقي", "حصة الساعة", "ساعات البعد",
+                     "العلامة", "ساعات البعد", "الاجتماع بالمركز", "فضل الطولين", "الاجتماع ببلد",
+                     "الغروب", "الاجتماع ببلد", "ما بين الاجتماع والغروب", "الضابط", "ارتفاع الهلال", "الضابط",
+                     "مكث الهلال", "عرض القمر", "نور الهلال"]
+    for i, teks in enumerate(kanan):
+        label(teks, 8 + i, 38)
+
+    lima = ["المدخل", "السطر", "السطر التالي", "الفضل", "المعدل"]
+    blok = [(8, "تعديل الخاصة", 11, 19, 20, 27), (8, "تعديل المركز", 1, 9, 10, 10),
+            (16, "حصة الساعة", 11, 19, 20, 27), (16, "دقائق تعديل الأيام", 1, 9, 10, 10),
+            (24, "المنزلة", 1, 9, 10, 10)]
+    if latitude:
+        blok.append((24, "عرض القمر", 11, 19, 20, 27))
+    for baris, judul, k1, k2, l1, l2 in blok:
+        label(judul, baris, k1, k2)
+        for i, teks in enumerate(lima):
+            label(teks, baris + 1 + i, l1, l2)
+    if waktu:
+        label("وقت الهلال", 31, 11, 19)
+        for i, teks in enumerate(["تقويم الشمس", "الميل", "عرض البلد", "تعديل الغروب", "بالساعات",
+                                  "ساعة الاجتماع", "الجملة"]):
+            label(teks, 32 + i, 22, 27)
+    return f
+
+
 # The labels of the conclusion lines, read by position (the line writers name the position).
 LABEL = [
     "Awal bulan sesudah ",        # 0  first of the month, after the chosen month's name
@@ -129,7 +190,14 @@ def tulis(nama, kepala, baris):
 
 
 def main():
-    frames = {"SN": sullam()}
+    frames = {
+        "SN": sullam(),
+        "FR": fathur(),
+        "IDB1": fathur(waktu=True),
+        "TZ": fathur(qomar=10),
+        "KW1": fathur(sel=4, latitude=False),
+        "FK": fathur(waktu=True),
+    }
     panjang = max(len(v) for v in frames.values())
     kolom = [f"{nama}{x}" for x in frames for nama in ("Nama", "Baris", "Kolom1", "Kolom2")]
     baris = []

@@ -1,9 +1,11 @@
 #include "methods/tahqiqi/Taadil.h"
 
+#include <cmath>
 #include <optional>
 
 #include "core/Angka.h"
 #include "core/FungsHisab.h"
+#include "core/Kalender.h"
 
 namespace falak {
 
@@ -303,19 +305,39 @@ bool ClsTaadil::OperMasehi(const Nilai& tanggal) {
 }
 
 std::array<Nilai, 2> ClsTaadil::Taadil(const Nilai& majmu, const Nilai& mabsut, const Nilai& syahr,
-                                       const Nilai& saah) {
-    MedanAlamah m{};
-    for (const Nilai* v : {&majmu, &mabsut, &syahr})
-        for (int f = 0; f < 4; ++f) m[static_cast<size_t>(f)] += AmbilTingkat(*v, 6 + f);
-    m[5] = AmbilTingkat(saah, 2);
-    Nilai tanggal = AlamahTarkh(2, m, 1);
+                                       const Nilai& saah, int32_t dawr, int32_t sisaTahun, const Nilai& mabda,
+                                       const Nilai& tambah) {
+    const Nilai koreksi = Syatar1(7, DlorbuSittin(0, dawr, 0, 0, 0, 1, 1), 1, false);
+    if (koreksi.kosongTeks()) return {};
 
-    const Nilai koreksi = Syatar1(7, darojah(m[2], 1, 1), 1, false);
-    if (!koreksi.kosongTeks()) tanggal = TambahNilai(2, 3, 1, tanggal, koreksi);
+    // The groups' date, by years and months as the group row writes them.
+    int64_t tahun = AmbilTingkat(mabda, 6) + int64_t{dawr} * AmbilTingkat(tambah, 6);
+    int64_t bulan = AmbilTingkat(mabda, 7) + int64_t{dawr} * AmbilTingkat(tambah, 7) - 1;
+    tahun += bulan >= 0 ? bulan / 12 : -((11 - bulan) / 12);
+    bulan = ((bulan % 12) + 12) % 12 + 1;
+    const int64_t nomor = NomorHari(tahun, static_cast<int>(bulan), AmbilTingkat(mabda, 8)) + AmbilTingkat(koreksi, 8);
 
-    Nilai akhir = tanggal;
-    if (OperMasehi(tanggal)) akhir = TambahNilai(2, 3, 1, tanggal, Nilai("00 00 01 00 00 00 00 00 00 0"));
-    return {tanggal, akhir};
+    // The single years, the month row and the hours that the rows carry, as a fraction of a day.
+    const double menitAwal = AmbilTingkat(mabda, 11) * 60.0 + AmbilTingkat(mabda, 12) +
+                             dawr * (AmbilTingkat(tambah, 11) * 60.0 + AmbilTingkat(tambah, 12));
+    const double hari = sisaTahun * (354 + (8 * 60 + 48) / 1440.0) + 360.0 * AmbilTingkat(syahr, 6) +
+                        30.0 * AmbilTingkat(syahr, 7) + AmbilTingkat(syahr, 8) +
+                        (AmbilTingkat(syahr, 11) * 60.0 + AmbilTingkat(syahr, 12) + menitAwal) / 1440.0;
+    int64_t n = nomor + static_cast<int64_t>(std::floor(hari));
+
+    // The reckoned weekday settles the day.
+    const Nilai rata = TambahNilai(0, 3, 1, majmu, mabsut, syahr);
+    const int hariDicari = AmbilTingkat(rata, 10) == 0 ? 7 : AmbilTingkat(rata, 10);
+    int64_t geser = ((hariDicari - HariPekan(n)) % 7 + 7) % 7;
+    if (geser > 3) geser -= 7;
+    n += geser;
+
+    const TanggalSipil t = TanggalDariNomor(n);
+    const MedanAlamah medan = {t.tahun, t.bulan, t.hari, PasaranDariNomor(n), HariPekan(n) % 7,
+                               AmbilTingkat(rata, 11), AmbilTingkat(rata, 12), AmbilTingkat(rata, 13),
+                               AmbilTingkat(rata, 14)};
+    const Nilai rataBertanggal = AlamahTarkh(2, medan, 1);
+    return {rataBertanggal, KurangNilai(2, 3, 1, rataBertanggal, CUmumToAlamah(saah, true))};
 }
 
 std::string ClsTaadil::TaadilKhusf(const Nilai& a, const Nilai& b, const Nilai& c, std::string_view bentuk) {

@@ -65,12 +65,24 @@ public:
     bool TaadilKhusfGanda(std::span<Nilai, 11> baris, int kode, const Nilai& a, const Nilai& b);
     bool TaadilKusfGanda(std::span<Nilai, 13> baris, int kode, const Nilai& a, const Nilai& b);
 
-    // The Masehi date step of the taqribi treatises whose alamah carries a Masehi date, from the
-    // year, month, day and pasaran fields of the grouped, single and month rows and the hours
-    // (Sa'ah, field 2) of the ijtima's distance: line 1 is that date with those hours, corrected
-    // by the tdThMasehi entry (code 7) keyed by the sum of the days; line 2 is line 1 less one
-    // day when OperMasehi says the leap day has passed.
-    std::array<Nilai, 2> Taadil(const Nilai& majmu, const Nilai& mabsut, const Nilai& syahr, const Nilai& saah);
+    // The Masehi date step of the taqribi treatises whose alamah carries a Masehi date.
+    //
+    // Given the alamah cells of the grouped, single and month rows, the hours between the
+    // luminaries (saah, an arc value of hours), the count of groups dawr and of single years
+    // sisaTahun, and the treatise's base and group rows (mabda, tambah: Masehi year, month,
+    // day first). Returns two lines:
+    //   1 the mean ijtima' (the time of the three rows) with its Masehi date;
+    //   2 that less the hours between the luminaries: the ijtima' at the markaz, dated.
+    // The date: the base's date moved by dawr times the group's years and months; the days
+    // that the groups run beyond those, read from tdThMasehi (code 7) keyed by dawr; the days
+    // of the single years (354 days 8 hours 48 minutes each) and of the month row (its date
+    // fields, in months of 30 days); and the whole days that the hours carry. The weekday that
+    // the alamah reckons is exact, so the day is then settled on the nearest date that falls
+    // on it. Dates before 15 October 1582 are Julian, later ones Gregorian, as the
+    // conclusions' calendar has them. Both lines are empty when the table has no row for
+    // dawr: the reckoning then cannot place the ijtima' on the calendar.
+    std::array<Nilai, 2> Taadil(const Nilai& majmu, const Nilai& mabsut, const Nilai& syahr, const Nilai& saah,
+                                int32_t dawr, int32_t sisaTahun, const Nilai& mabda, const Nilai& tambah);
 
     // The eclipse test on the summed fields 1 and 2 of three values: their sum in whole degrees,
     // compared as text with 26, 51 and 49. bentuk holds the caller's two two-letter signs: the

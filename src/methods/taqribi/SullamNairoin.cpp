@@ -232,9 +232,8 @@ void SullamNairoin::tulisSel() {
     TulisNamaManzil(g, Manzil(6).teks(), 29, 7);
 }
 
-void SullamNairoin::HitungIjtimaSN(int32_t tahun, int16_t bulan) {
+void SullamNairoin::tahap(int32_t tahun, int16_t bulan) {
     Kemajuan& maju = k_.kemajuan;
-    maju.mulai(kLangkah);
     JumlahSN(tahun, bulan);
     maju.langkah();
     TaadilSN();
@@ -245,12 +244,32 @@ void SullamNairoin::HitungIjtimaSN(int32_t tahun, int16_t bulan) {
     maju.langkah();
     HilalSN();
     maju.langkah();
+}
+
+void SullamNairoin::HitungIjtimaSN(int32_t tahun, int16_t bulan) {
+    Kemajuan& maju = k_.kemajuan;
+    maju.mulai(kLangkah);
+    tahap(tahun, bulan);
     KesimpulanSN();
     maju.langkah();
     IsiTabelSN();
     maju.langkah();
     tulisSel();
     maju.penuh();
+}
+
+void SullamNairoin::HitungRingkas(int32_t tahun, int16_t bulan) {
+    tahap(tahun, bulan);
+    KesimpulanSN();
+}
+
+std::optional<Nilai> SullamNairoin::AwalBulan(int32_t tahun, int16_t bulan) {
+    k_.sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
+    tahap(tahun, bulan);
+    const auto hari = k_.kesimpulan.CariTHM(tahun, bulan, AmbilTingkat(Ijtima(5), 10));
+    if (!hari || hari->kosongTeks()) return std::nullopt;
+    const char* jam = NilaiDesimal(3, Hilal(5)) < 2 ? "49" : "25";
+    return TambahNilai(2, 3, 1, *hari, Nilai(std::string("00 00 00 00 00 ") + jam + " 00 00 00 1"));
 }
 
 std::vector<BarisTercatat> SullamNairoin::baris() const {

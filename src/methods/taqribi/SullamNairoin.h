@@ -24,6 +24,9 @@ public:
     std::string awalanLembar() const override { return "IjSN_"; }
 
     void Hitung(int32_t tahun, int16_t bulan) override { HitungIjtimaSN(tahun, bulan); }
+    void HitungRingkas(int32_t tahun, int16_t bulan) override;
+    // The day of the ijtima' advanced by 25 hours, or 49 when the hilal stands below 2 degrees.
+    std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override;
     std::vector<BarisTercatat> baris() const override;
 
     // The whole run: the stages, the conclusion, the frame and the cells of the sheet.
@@ -53,6 +56,7 @@ public:
     int16_t BulanIni = 0;
 
 private:
+    void tahap(int32_t tahun, int16_t bulan);
     void tulisSel();
     Konteks k_;
 };

@@ -1,0 +1,64 @@
+// The batches without sheets on the shipped tables: every taqribi treatise for one month, and
+// the twelve months of a year by every one, as "falak semua" and "falak setahun --kitab semua"
+// run them; and one month by Fathu al-Ro'uf al-Mannan alone, with and without its sheet.
+#include <benchmark/benchmark.h>
+
+#include "core/Koneksi.h"
+#include "methods/taqribi/FathurRouf.h"
+#include "run/Workspace.h"
+
+using namespace falak;
+
+namespace {
+
+struct Sesi {
+    ClsConnection koneksi{CariLokasiData()};
+    Workspace ws{koneksi};
+};
+
+Sesi& sesi() {
+    static Sesi s;
+    return s;
+}
+
+void BM_SemuaKitabSebulan(benchmark::State& state) {
+    Workspace& ws = sesi().ws;
+    for (auto _ : state) {
+        auto h = ws.mnuProsesAllSub("1445", 8, "Pasuruan", Workspace::Keluaran::Ringkas);
+        benchmark::DoNotOptimize(h.ringkas.data());
+    }
+    state.counters["kitab"] = static_cast<double>(ws.kitabTersedia().size());
+}
+BENCHMARK(BM_SemuaKitabSebulan)->Unit(benchmark::kMicrosecond);
+
+void BM_DuaBelasBulanSemuaKitab(benchmark::State& state) {
+    Workspace& ws = sesi().ws;
+    for (auto _ : state) {
+        auto h = ws.duaBelasBulanSemuaKitab("1445", "Pasuruan", Workspace::Keluaran::Ringkas);
+        benchmark::DoNotOptimize(h.ringkas.data());
+    }
+}
+BENCHMARK(BM_DuaBelasBulanSemuaKitab)->Unit(benchmark::kMicrosecond);
+
+void BM_FathurTanpaLembar(benchmark::State& state) {
+    Workspace& ws = sesi().ws;
+    ws.pilihTempat("Semarang");
+    ws.sesi.tanggalPilihan = Nilai("1445 8 ");
+    auto& fr = *dynamic_cast<FathurRouf*>(ws.metode(6));
+    for (auto _ : state) benchmark::DoNotOptimize(fr.AwalBulanFR(1445, 8));
+}
+BENCHMARK(BM_FathurTanpaLembar)->Unit(benchmark::kMicrosecond);
+
+void BM_FathurDenganLembar(benchmark::State& state) {
+    Workspace& ws = sesi().ws;
+    LembarKerja tab;
+    ws.grid.pilih(&tab.lembar);
+    auto& fr = *dynamic_cast<FathurRouf*>(ws.metode(6));
+    for (auto _ : state) {
+        fr.HitungIjtimaFR(1445, 8);
+        benchmark::DoNotOptimize(tab.lembar.sel(27, 39));
+    }
+}
+BENCHMARK(BM_FathurDenganLembar)->Unit(benchmark::kMicrosecond);
+
+}  // namespace

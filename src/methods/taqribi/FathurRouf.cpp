@@ -1,0 +1,390 @@
+#include "methods/taqribi/FathurRouf.h"
+
+#include <cstdlib>
+#include <string>
+
+#include "conclusions/Kesimpulan.h"
+#include "core/FlexGrid.h"
+#include "core/FungsHisab.h"
+#include "core/Koneksi.h"
+#include "core/Manzil.h"
+#include "core/Sesi.h"
+#include "methods/tahqiqi/Taadil.h"
+#include "methods/taqribi/Lembar.h"
+
+namespace falak {
+
+namespace {
+
+const DataKitabFR kFathurRouf = {
+    "FR",
+    "Fathu al-Ro'uf al-Mannan",
+    "IjFR_",
+    5,
+    {2, 3, 4, 5},
+    {"000 00 00 00 03 10 58 00 00 1", "08 28 18 00 00 1", "07 14 33 00 00 1", "08 12 13 00 00 1",
+     "04 21 19 00 00 1"},
+    {"000 00 00 00 05 00 15 00 00 1", "08 01 24 00 00 1", "01 08 24 00 00 1", "09 23 57 00 00 1",
+     "01 08 00 00 00 1"},
+    {"000 00 00 00 05 00 15 00 00 0", "08 01 24 00 00 0", "01 08 24 00 00 0", "09 23 57 00 00 0",
+     "01 08 00 00 00 0"},
+    {30, 20, 10, 0, 20},
+    110,
+    24,
+    {"Semarang", 6, 56, 0, 110, 24, 1},
+    4,
+    7,
+    false,
+};
+
+constexpr int kLangkah = 8;  // steps of the progress bar
+
+Nilai busur(int64_t b, int64_t d, int64_t m) { return DlorbuSittin(b, d, m, 0, 0, 1, 1); }
+
+// The slot of each element in the single-year rows of the value arithmetic: alamah, Hishshoh,
+// Wasath, Khossyoh, Markaz.
+struct SlotUnsur {
+    int LetakUnsur::*unsur;
+    size_t slot;
+    const char* kolom;  // its columns in TRBSyahru: <kolom>Brj, <kolom>Jah, <kolom>Qoh
+};
+constexpr SlotUnsur kSlot[] = {{&LetakUnsur::hishshoh, 2, "hs"},
+                               {&LetakUnsur::wasath, 3, "ws"},
+                               {&LetakUnsur::khossyoh, 4, "ks"},
+                               {&LetakUnsur::markaz, 5, "mr"}};
+
+}  // namespace
+
+FathurRouf::FathurRouf(Konteks k) : FathurRouf(k, kFathurRouf) {}
+
+FathurRouf::FathurRouf(Konteks k, const DataKitabFR& data) : k_(k), data_(data) {}
+
+void FathurRouf::PokokFR(int32_t tahun, int16_t bulan) {
+    Bulan = bulan;
+    const PembagiTahun& p = data_.pembagi;
+    const int32_t Y = tahun - 1;
+    enum class Langkah { Tambah, Nol, Kurang } langkah;
+    int32_t sisa;
+    if (Y > p.atas) {
+        Dawr = (Y + p.geser) / p.g;
+        Pengali = Dawr;
+        sisa = (Y + p.geser) % p.g;
+        langkah = Langkah::Tambah;
+    } else if (Y > p.bawah) {
+        Dawr = 0;
+        Pengali = 1;
+        sisa = Y + p.geser;
+        langkah = Langkah::Nol;
+    } else {
+        Dawr = (Y - p.mundur) / p.g;
+        Pengali = std::abs(Dawr);
+        sisa = Y - p.g * Dawr + p.geser;
+        langkah = Langkah::Kurang;
+        if (sisa == p.g) {
+            Dawr += 1;
+            Pengali -= 1;
+            sisa = 0;
+        }
+    }
+    SisaTahun = static_cast<int16_t>(sisa);
+
+    const size_t n = static_cast<size_t>(data_.jumlahSel);
+    std::array<Nilai, 5> mabda, tambah;
+    for (size_t i = 0; i < n; ++i) {
+        mabda[i] = Nilai(data_.mabda[i]);
+        switch (langkah) {
+            case Langkah::Tambah: tambah[i] = Nilai(data_.tambah[i]); break;
+            case Langkah::Kurang: tambah[i] = Nilai(data_.kurang[i]); break;
+            case Langkah::Nol: tambah[i] = i == 0 ? Nilai("000 00 00 00 00 00 00 00 00 1") : Nilai("00 00 00 00 00 1");
+        }
+    }
+    HitungMajmuah(Majmu.semua().first(n), std::span<const Nilai>(mabda).first(n),
+                  std::span<const Nilai>(tambah).first(n), Pengali, 0, 1);
+
+    std::array<Nilai, 5> mabsut;
+    HitungMabsuthah(mabsut, SisaTahun, false, false, false, false);
+    Mabsut(1) = mabsut[0];
+
+    Tabel& syahru = k_.koneksi.TRBSyahru;
+    const bool adaSyahr = syahru.cari("Cari", bulan);
+    if (adaSyahr) Syahr(1) = alamahSyahr(syahru);
+    for (const SlotUnsur& s : kSlot) {
+        const int sel = data_.unsur.*s.unsur;
+        if (sel == 0) continue;
+        Mabsut(static_cast<size_t>(sel)) = mabsut[s.slot - 1];
+        if (adaSyahr) {
+            const std::string k = s.kolom;
+            isi(Syahr(static_cast<size_t>(sel)), DlorbuSittin(BacaTeks(syahru, k + "Brj"), BacaTeks(syahru, k + "Jah"),
+                                                               BacaTeks(syahru, k + "Qoh"), "0", "0", 1, 1));
+        }
+    }
+
+    Jumlah(1) = TambahNilai(0, 3, 1, Majmu(1), Mabsut(1), Syahr(1));
+    for (size_t i = 2; i <= n; ++i) Jumlah(i) = TambahNilai(3, 3, 1, Majmu(i), Mabsut(i), Syahr(i));
+}
+
+Nilai FathurRouf::alamahSyahr(const Tabel& syahru) const {
+    auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, kolom); };
+    return AlamahTarkh(0, {"0", "0", "0", "0", sel("alHari"), sel("alSah"), sel("alQoh"), "0", "0"}, 1)
+        .value_or(Syahr(1));
+}
+
+void FathurRouf::TaadilFR() {
+    const LetakUnsur& u = data_.unsur;
+    const Nilai& khossyoh = Jumlah(static_cast<size_t>(u.khossyoh));
+    k_.taadil.TaadilBaris(TdlKs.semua(), 1, khossyoh, 1, false);
+    k_.taadil.TaadilBaris(TdlMr.semua(), 2, Jumlah(static_cast<size_t>(u.markaz)), 1, false);
+    if (u.hishshoh != 0) k_.taadil.TaadilBaris(TdlAr.semua(), 3, Jumlah(static_cast<size_t>(u.hishshoh)), 1, false);
+    k_.taadil.TaadilBaris(TdlHs.semua(), data_.kodeTdlHs, khossyoh, 5, false);
+}
+
+void FathurRouf::QomarFR() {
+    TaadilQomar();
+    HitungBudTaqwim();
+    k_.taadil.TaadilBaris(TdlDq.semua(), 5, BudTaqwim(3), 5, false);
+
+    Manzil(1) = ClsTaadil::Madkhul(BudTaqwim(3));
+    const int a = AmbilTingkat(Manzil(1), 1), b = AmbilTingkat(Manzil(1), 2);
+    Tabel& taadil = k_.koneksi.TRBTaadil;
+    Manzil(2) = Nilai(AmbilManzil(taadil, 1, a, b));
+    Manzil(3) = Nilai(CetakAngka(ValAngka(Manzil(2).teks()) + 1));
+    isi(Manzil(2), DlorbuSittin("0", Manzil(2).teks(), "0", "0", "0", 1, 1));
+    // The mansion after the thirteenth is the first again.
+    const std::string berikut = ValAngka(Manzil(3).teks()) > 13 ? "1" : Manzil(3).teks();
+    isi(Manzil(3), DlorbuSittin("0", berikut, "0", "0", "0", 1, 1));
+    Manzil(4) = DlorbuSittin(0, 0, AmbilTingkat(Manzil(1), 3), AmbilTingkat(Manzil(1), 4), AmbilTingkat(Manzil(1), 5), 1, 1);
+    Manzil(5) = TambahNilai(3, 3, 1, Manzil(2), Manzil(4));
+    Manzil(6) = Nilai(AmbilManzil(taadil, 2, a, b));
+}
+
+void FathurRouf::TaadilQomar() {
+    Qomar(1) = TdlKs(5);
+    Qomar(2) = TdlMr(5);
+    Qomar(3) = TambahNilai(3, 3, 1, Qomar(1), Qomar(2));
+    Qomar(4) = busur(0, 0, 5);
+    isi(Qomar(5), KaliNilai(3, 3, 1, Qomar(3), Qomar(4)));
+    Qomar(6) = TdlMr(5);
+    Qomar(7) = TambahNilai(3, 3, 1, Qomar(5), Qomar(6));
+}
+
+void FathurRouf::HitungBudTaqwim() {
+    BudTaqwim(1) = Jumlah(static_cast<size_t>(data_.unsur.wasath));
+    BudTaqwim(2) = Qomar(static_cast<size_t>(data_.jumlahQomar));
+    BudTaqwim(3) = KurangNilai(3, 3, 1, BudTaqwim(1), BudTaqwim(2));
+}
+
+void FathurRouf::hitungSaah() {
+    Saah(1) = Qomar(3);
+    Saah(2) = TdlDq(5);
+    Saah(3) = KurangNilai(3, 3, 1, Saah(1), Saah(2));
+    Saah(4) = TdlHs(5);
+    isi(Saah(5), KaliNilai(3, 3, 1, Saah(3), Saah(4)));
+}
+
+Nilai FathurRouf::selisihBujur(bool bertanggal) const {
+    const Tempat& t = k_.sesi.tempat;
+    const Nilai p = DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), 3);
+    const Nilai j = DlorbuSittin(0, data_.bujurDerajat, data_.bujurMenit, 0, 0, 1, 3);
+    Nilai d = KurangNilai(3, 3, 3, p, j);
+    isi(d, BagiNilai(3, 3, 1, d, busur(0, 15, 0)));
+    return CUmumToAlamah(d, bertanggal);
+}
+
+void FathurRouf::IjtimaFR() {
+    hitungSaah();
+    Ijtima(1) = Jumlah(1);
+    Ijtima(2) = CUmumToAlamah(Saah(5), false);
+    Ijtima(3) = KurangNilai(0, 3, 1, Jumlah(1), Ijtima(2));
+    Ijtima(4) = selisihBujur(false);
+    Ijtima(5) = TambahNilai(0, 3, 1, Ijtima(3), Ijtima(4));
+}
+
+void FathurRouf::HilalFR() {
+    Hilal(1) = Nilai("00 24 00 00 00 1");
+    Hilal(2) = CAlamahToUmum(Ijtima(5));
+    Hilal(3) = KurangNilai(3, 2, 1, Hilal(1), Hilal(2));
+    tinggiDanMukts();
+}
+
+void FathurRouf::tinggiDanMukts() {
+    Hilal(4) = busur(0, 0, 30);
+    isi(Hilal(5), KaliNilai(3, 3, 1, Hilal(3), Hilal(4)));
+    Hilal(6) = busur(0, 0, 4);
+    isi(Hilal(7), KaliNilai(3, 3, 1, Hilal(5), Hilal(6)));
+    // Without a latitude table the light is the stay alone.
+    Nur(1) = data_.unsur.hishshoh != 0 ? TdlAr(5) : busur(0, 0, 0);
+    Nur(2) = TambahNilai(3, 3, 1, Nur(1), Hilal(7));
+}
+
+Nilai FathurRouf::hariIjtima() {
+    const Sesi& s = k_.sesi;
+    return k_.kesimpulan.CariTHM(AmbilTingkat(s.tanggalPilihan, 6), AmbilTingkat(s.tanggalPilihan, 7),
+                                 AmbilTingkat(Ijtima(5), 10))
+        .value_or(Nilai());
+}
+
+FathurRouf::HariHasil FathurRouf::hariHasil() {
+    HariHasil h;
+    h.ijtima = hariIjtima();
+    // Two days after the ijtima' when the hilal stands below 2 degrees, else one.
+    const std::string d = NilaiDesimal(3, Hilal(5)) < 2 ? "2" : "1";
+    const Nilai tambahHari = AlamahTarkh(3, {"0", "0", d, d, d, "0", "0", "0", "0"}, 1).value_or(Nilai());
+    h.awal = TambahNilai(2, 3, 1, h.ijtima, tambahHari);
+    return h;
+}
+
+std::string FathurRouf::judulKesimpulan() const { return k_.sesi.namaKitab; }
+
+void FathurRouf::hitungTahap(int32_t tahun, int16_t bulan) {
+    Kemajuan& maju = k_.kemajuan;
+    // These books count the month whose beginning they seek: their row of month m holds the
+    // lunation that opens month m (their mean ijtima' of month m runs some 13 hours ahead of
+    // the true conjunction that opens it, as Sullam's of month m does of the one that ends
+    // it). The ijtima' at the end of month m is therefore their month m + 1, and after
+    // Dzulhijjah their Muharram of the next year.
+    if (bulan >= 12) {
+        tahun += 1;
+        bulan = 1;
+    } else {
+        bulan = static_cast<int16_t>(bulan + 1);
+    }
+    PokokFR(tahun, bulan);
+    maju.langkah();
+    TaadilFR();
+    maju.langkah();
+    QomarFR();
+    maju.langkah();
+    IjtimaFR();
+    maju.langkah();
+    HilalFR();
+    maju.langkah();
+}
+
+void FathurRouf::KesimpulanFR() {
+    ClsKesimpulan& ks = k_.kesimpulan;
+    Sesi& s = k_.sesi;
+    const Nilai& I = Ijtima(5);
+    const std::string jam = std::to_string(AmbilTingkat(I, 11) + 18);
+    const HariHasil h = hariHasil();
+
+    std::vector<std::string> baris(13);
+    baris[0] = judulKesimpulan();
+    baris[1] = s.labelKe(0) + ks.FullM(h.awal, "17", true);
+    baris[2] = s.labelKe(1) + ks.FullM(h.ijtima, jam, false);
+    const std::string jamIjtima = ks.JamIjtima(jam, std::to_string(AmbilTingkat(I, 12)), h.ijtima);
+    baris[3] = s.labelKe(2) + jamIjtima;
+    baris[4] = s.labelKe(3) + ks.SaatuMaghribS(BudTaqwim(3));
+    baris[5] = s.labelKe(6) + ks.ArahHilal(BudTaqwim(3));
+    baris[6] = s.labelKe(5) + ks.KeadaanHilal(BudTaqwim(3));
+    baris[7] = s.labelKe(7) + ks.IrtifaHilal(Hilal(5), true);
+    baris[8] = s.labelKe(8) + ks.MuktsulHilal(Hilal(7));
+    baris[9] = s.labelKe(9) + ks.NurHilal(Nur(2));
+    const Nilai& hariGurub = data_.gurubHariIjtima ? h.ijtima : h.awal;
+    std::string gurub, terbit;
+    ks.WaktuGurub(Nilai(BurujMatahari(hariGurub).value_or("")), gurub, terbit);
+    baris[10] = s.labelKe(12) + gurub;
+    const TitikMarkaz& m = data_.markazKesimpulan;
+    baris[11] = s.labelKe(14) + ClsKesimpulan::baris(m.nama, m.lintangDerajat, m.lintangMenit, m.tandaLintang,
+                                                      m.bujurDerajat, m.bujurMenit, m.tandaBujur);
+    const Tempat& t = s.tempat;
+    baris[12] = s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
+                                                      static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
+                                                      t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur)));
+    kesimpulan_ = std::move(baris);
+    ringkasan_ = {h.ijtima, jamIjtima, Hilal(5), h.awal};
+}
+
+void FathurRouf::IsiTabelFR() {
+    ClsFlexGrid& g = k_.grid;
+    const Sesi& s = k_.sesi;
+    g.FlexSetting(40, 40, 490, 500, 2500, true);
+    IsiBingkai(g, k_.koneksi.Names, data_.kode);
+    const int tahun = AmbilTingkat(s.tanggalPilihan, 6);
+    g.FlexNama(JudulLembarArab(s.tempat.namaTampil, tahun, Bulan + (Bulan == 1 ? 12 : 0)), 0, 0, 39);
+    g.FlexTeks(std::to_string(Dawr * data_.pembagi.g), 3, 39);
+    g.FlexTeks(std::to_string(SisaTahun), 4, 39);
+    g.FlexTeks(NamaBulanArab(Bulan), 5, 39);
+    g.FlexTeks(TandaKurung(AmbilTanda(Ijtima(4)), ""), barisKanan(26), 39);
+    g.FlexTeks(s.tempat.nama, barisKanan(27), 39);
+}
+
+void FathurRouf::tulisSel() {
+    ClsFlexGrid& g = k_.grid;
+    constexpr int T = ClsFlexGrid::kTanpaMedan;
+    const std::initializer_list<int> lima = {1, 2, 3, 4, 5};
+    const size_t sel = static_cast<size_t>(data_.jumlahSel);
+    int c = 37;
+    for (size_t k = 1; k <= 7; c -= 6, ++k) {
+        const int b = static_cast<int>(k);
+        if (k <= sel) {
+            for (auto [baris, row] : {std::pair{3, &Majmu}, {4, &Mabsut}, {5, &Syahr}, {6, &Jumlah}}) {
+                if (k == 1) g.FlexData((*row)(k), baris, c, {10, 11, 12, T});
+                else g.FlexData((*row)(k), baris, c, {1, 2, 3, T});
+            }
+        }
+        if (k <= 5) {
+            g.FlexData(TdlKs(k), b + 8, 19, lima);
+            g.FlexData(TdlMr(k), b + 8, 9, lima);
+            g.FlexData(TdlHs(k), b + 16, 19, lima);
+            if (data_.unsur.hishshoh != 0) g.FlexData(TdlAr(k), b + 24, 19, lima);
+            g.FlexData(TdlDq(k), b + 16, 9, lima);
+            g.FlexData(Manzil(k), b + 24, 9, lima);
+            g.FlexData(Saah(k), barisKanan(b + 17), 37, lima);
+            g.FlexData(Ijtima(k), barisKanan(b + 22), 37, {10, 11, 12, 13, 14});
+        }
+        if (k <= 3) g.FlexData(BudTaqwim(k), barisKanan(b + 14), 37, lima);
+        if (k <= 2) g.FlexData(Nur(k), barisKanan(b + 34), 37, lima);
+        g.FlexData(Hilal(k), barisKanan(b + 27), 37, lima);
+    }
+    for (size_t k = 1; k <= static_cast<size_t>(data_.jumlahQomar); ++k)
+        g.FlexData(Qomar(k), static_cast<int>(k) + 7, 37, lima);
+    TulisNamaManzil(g, Manzil(6).teks(), 29, 7);
+    tulisSelTambahan();
+}
+
+void FathurRouf::HitungIjtimaFR(int32_t tahun, int16_t bulan) {
+    Kemajuan& maju = k_.kemajuan;
+    maju.mulai(kLangkah);
+    hitungTahap(tahun, bulan);
+    KesimpulanFR();
+    maju.langkah();
+    IsiTabelFR();
+    maju.langkah();
+    tulisSel();
+    maju.penuh();
+}
+
+void FathurRouf::HitungRingkas(int32_t tahun, int16_t bulan) {
+    hitungTahap(tahun, bulan);
+    KesimpulanFR();
+}
+
+std::optional<Nilai> FathurRouf::AwalBulanFR(int32_t tahun, int16_t bulan) {
+    k_.sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
+    hitungTahap(tahun, bulan);
+    const Nilai hari = hariIjtima();
+    if (hari.kosongTeks()) return std::nullopt;
+    const char* jam = NilaiDesimal(3, Hilal(5)) < 2 ? "49" : "25";
+    return TambahNilai(2, 3, 1, hari, Nilai(std::string("00 00 00 00 00 ") + jam + " 00 00 00 1"));
+}
+
+std::vector<BarisTercatat> FathurRouf::baris() const {
+    const size_t sel = static_cast<size_t>(data_.jumlahSel);
+    auto potong = [](BarisTercatat b, size_t n) {
+        b.sel.resize(n);
+        return b;
+    };
+    std::vector<BarisTercatat> r = {potong(catat("Majmu", Majmu), sel), potong(catat("Mabsut", Mabsut), sel),
+                                    potong(catat("Syahr", Syahr), sel), potong(catat("Jumlah", Jumlah), sel),
+                                    catat("TdlKs", TdlKs),   catat("TdlMr", TdlMr)};
+    if (data_.unsur.hishshoh != 0) r.push_back(catat("TdlAr", TdlAr));
+    r.push_back(catat("TdlHs", TdlHs));
+    r.push_back(potong(catat("Qomar", Qomar), static_cast<size_t>(data_.jumlahQomar)));
+    for (auto b : {catat("BudTaqwim", BudTaqwim), catat("TdlDq", TdlDq), catat("Manzil", Manzil), catat("Saah", Saah),
+                   catat("Ijtima", Ijtima), catat("Hilal", Hilal), catat("Nur", Nur)})
+        r.push_back(std::move(b));
+    catatTambahan(r);
+    return r;
+}
+
+}  // namespace falak

@@ -1,0 +1,126 @@
+#include "methods/taqribi/IttifaqDzatilBain.h"
+
+#include <cstdio>
+
+#include "core/FlexGrid.h"
+#include "core/FungsHisab.h"
+#include "core/Sesi.h"
+#include "methods/tahqiqi/Taadil.h"
+
+namespace falak {
+
+namespace {
+
+const DataKitabFR kIttifaqDzatilBain = {
+    "IDB1",
+    "Ittifaq Dzatu al-Bain Taqribi",
+    "IjIDB1_",
+    5,
+    {2, 3, 4, 5},
+    {"622 07 15 00 05 03 12 00 00 1", "11 18 46 00 00 1", "03 27 22 00 00 1", "03 20 12 00 00 1",
+     "01 03 59 00 00 1"},
+    {"029 01 00 01 05 00 15 00 00 1", "08 01 24 00 00 1", "01 08 24 00 00 1", "09 23 57 00 00 1",
+     "01 08 00 00 00 1"},
+    {"029 01 00 01 05 00 15 00 00 0", "08 01 24 00 00 0", "01 08 24 00 00 0", "09 23 57 00 00 0",
+     "01 08 00 00 00 0"},
+    {30, 29, 0, 0, 30},
+    112,
+    46,
+    {"Surabaya", 7, 15, 0, 112, 45, 1},
+    4,
+    7,
+    false,
+};
+
+const Nilai kNol("00 00 00 00 00 1");
+
+}  // namespace
+
+IttifaqDzatilBain::IttifaqDzatilBain(Konteks k) : IttifaqDzatilBain(k, kIttifaqDzatilBain) {}
+
+IttifaqDzatilBain::IttifaqDzatilBain(Konteks k, const DataKitabFR& data) : FathurRouf(k, data) {}
+
+Nilai IttifaqDzatilBain::alamahSyahr(const Tabel& syahru) const {
+    auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, kolom); };
+    // The date fields are days counted in months of 30: kept as the table gives them (a month
+    // row of no days must not be finished into a month before month 0).
+    return AlamahTarkh(-1, {sel("mshTh"), sel("mshBln"), sel("mshTgl"), sel("Pasaran"), sel("alHari"), sel("alSah"),
+                           sel("alQoh"), "0", "0"},
+                       1)
+        .value_or(Syahr(1));
+}
+
+void IttifaqDzatilBain::IjtimaFR() {
+    hitungSaah();
+    const Nilai saah = CUmumToAlamah(Saah(5), true);
+    Ijtima(3) = KurangNilai(1, 4, 1, Jumlah(1), saah);
+
+    const auto t = k_.taadil.Taadil(Majmu(1), Mabsut(1), Syahr(1), Saah(5), Dawr, SisaTahun, Nilai(data().mabda[0]),
+                                    Nilai(data().tambah[0]));
+    TanggalMasehi = t;
+
+    Ijtima(1) = Jumlah(1);
+    // The hours between the luminaries under the date of the mean ijtima'.
+    MedanAlamah m{};
+    for (int f = 0; f < 5; ++f) m[static_cast<size_t>(f)] = AmbilTingkat(t[0], 6 + f);
+    for (int f = 5; f < 9; ++f) m[static_cast<size_t>(f)] = AmbilTingkat(saah, 6 + f);
+    Ijtima(2) = AlamahTarkh(-1, m, AmbilTanda(saah));
+    Ijtima(3) = t[1];
+    Ijtima(4) = selisihBujur(bujurBertanggal());
+    Ijtima(5) = TambahNilai(2, 3, 1, Ijtima(3), Ijtima(4));
+}
+
+void IttifaqDzatilBain::HilalFR() {
+    FathurRouf::HilalFR();
+    WaktuIDB1();
+}
+
+void IttifaqDzatilBain::WaktuIDB1() {
+    const Tempat& t = k_.sesi.tempat;
+    // sin δ = sin λ sin 23° 52', and then the same with the latitude.
+    auto sinKali = [](const Nilai& a, const Nilai& b) {
+        const Nilai sa = TrigNilai(1, 1, a, false).value_or(kNol);
+        const Nilai sb = TrigNilai(1, 1, b, false).value_or(kNol);
+        return HitungDeret(3, 1, 1, sa, 3, sb, 0, kNol, 0, kNol, 0, kNol);
+    };
+    Waktu(1) = TambahNilai(3, 3, 2, BudTaqwim(3), kNol);
+    isi(Waktu(2), sinKali(Waktu(1), Nilai("00 23 52 00 00 1")));
+    Waktu(3) = DlorbuSittin(0, t.lintangDerajat, t.lintangMenit, 0, 0, AmbilTanda(Nilai(t.tandaLintang)), 1);
+    isi(Waktu(4), sinKali(Waktu(2), Waktu(3)));
+    isi(Waktu(5), KaliNilai(3, 3, 1, Waktu(4), Nilai("00 00 04 00 00 1")));
+    const Nilai& I = Ijtima(5);
+    Waktu(6) = CAlamahToUmum(AlamahTarkh(0, MedanAlamah{0, 0, 0, 0, 0, AmbilTingkat(I, 11), AmbilTingkat(I, 12), 0, 0}, 1));
+    Waktu(7) = TambahNilai(3, 3, 1, Waktu(5), Waktu(6));
+
+    auto tanda = [](int flag) { return flag == 0 ? std::string("-") : std::string(); };
+    Tanda = {tanda(AmbilTanda(Waktu(2))), t.tandaLintang == "0" ? "-" : "", tanda(AmbilTanda(Waktu(4))),
+             tanda(AmbilTanda(Waktu(5))), tanda(AmbilTanda(Waktu(6))), tanda(AmbilTanda(Waktu(7)))};
+}
+
+Nilai IttifaqDzatilBain::hariIjtima() {
+    const Nilai& I = Ijtima(5);
+    if (TanggalMasehi[1].kosongTeks() || AmbilTingkat(I, 6) == 0) return Nilai();
+    char bulan[8];
+    std::snprintf(bulan, sizeof bulan, "%02d", AmbilTingkat(I, 7));
+    const int pasaran = AmbilTingkat(I, 9) == 0 ? 5 : AmbilTingkat(I, 9);
+    const int hari = AmbilTingkat(I, 10) == 0 ? 7 : AmbilTingkat(I, 10);
+    return Nilai(std::to_string(AmbilTingkat(I, 6)) + " " + bulan + " " + std::to_string(AmbilTingkat(I, 8)) + " " +
+                 std::to_string(pasaran) + " " + std::to_string(hari) + " 00 00 00 00 1");
+}
+
+void IttifaqDzatilBain::tulisSelTambahan() {
+    ClsFlexGrid& g = k_.grid;
+    for (size_t k = 1; k <= 7; ++k) g.FlexData(Waktu(k), static_cast<int>(k) + 31, 19, {1, 2, 3, 4, 5});
+    // Each sign stands beside its cell: cells 2 to 7, the latitude being cell 3.
+    for (size_t i = 0; i < Tanda.size(); ++i) g.FlexTeks(Tanda[i], static_cast<int>(i) + 33, 21);
+}
+
+void IttifaqDzatilBain::catatTambahan(std::vector<BarisTercatat>& baris) const {
+    baris.push_back(catat("Waktu", Waktu));
+    BarisTercatat t{"Tanda", {}};
+    for (const std::string& s : Tanda) t.sel.push_back(s);
+    baris.push_back(std::move(t));
+    baris.push_back(BarisTercatat{"TanggalMasehi", {TanggalMasehi[0].teks(), TanggalMasehi[1].teks()}});
+}
+
+}  // namespace falak

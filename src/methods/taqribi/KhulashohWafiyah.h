@@ -1,0 +1,19 @@
+// Khulashotu al-Wafiyah, taqribi form: the skeleton of Fathu al-Ro'uf al-Mannan on rows of
+// four cells (alamah, Wasath, Khossyoh, Markaz: no Hishshoh, so no latitude of the moon),
+// years split by ten, markaz at Makkah al-Mukarromah (39° 57'). It finds the sunset by the
+// shared sunset reckoning for the place instead of a fixed 24 hours, so its alamah is read on
+// the same clock as that sunset.
+#pragma once
+
+#include "methods/taqribi/FathurRouf.h"
+
+namespace falak {
+
+class KhulashohWafiyah : public FathurRouf {
+public:
+    explicit KhulashohWafiyah(Konteks k);
+
+    void HilalFR() override;
+};
+
+}  // namespace falak

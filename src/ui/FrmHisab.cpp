@@ -1,0 +1,518 @@
+#include "ui/FrmHisab.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QDate>
+#include <QFormLayout>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRegularExpressionValidator>
+#include <QShortcut>
+#include <QSplitter>
+#include <QStackedWidget>
+#include <QStatusBar>
+#include <QTabWidget>
+#include <QTreeWidget>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+#include "core/Daerah.h"
+#include "core/FungsHisab.h"
+#include "core/Koneksi.h"
+#include "core/Tabel.h"
+#include "ui/FrmDaerah.h"
+#include "ui/KotakPesan.h"
+#include "ui/Pekerja.h"
+#include "ui/TabLembar.h"
+
+namespace falak::ui {
+
+namespace {
+
+QString q(const std::string& s) { return QString::fromStdString(s); }
+
+constexpr int kPeranKitab = Qt::UserRole;  // the treatise's code on an item of the tree
+
+// Where the user's eye goes first on a start: the month that runs now, by the program's own
+// calendar. The first day of each month of the years around today's, the last one that has
+// begun wins.
+std::pair<int, int> bulanHijriHariIni(ClsKesimpulan& kesimpulan) {
+    const QDate hari = QDate::currentDate();
+    const int perkiraan = static_cast<int>((hari.year() - 622) * 365.2425 / 354.367);
+    std::pair<int, int> hasil{perkiraan, 1};
+    QDate terbaik;
+    for (int tahun = perkiraan - 1; tahun <= perkiraan + 2; ++tahun)
+        for (int bulan = 1; bulan <= 12; ++bulan) {
+            const auto t = kesimpulan.ConvertToHijri(tahun, static_cast<int16_t>(bulan), 1);
+            if (!t) continue;
+            const QDate awal(AmbilTingkat(*t, 6), AmbilTingkat(*t, 7), AmbilTingkat(*t, 8));
+            if (awal.isValid() && awal <= hari && (!terbaik.isValid() || awal > terbaik)) {
+                terbaik = awal;
+                hasil = {tahun, bulan};
+            }
+        }
+    return hasil;
+}
+
+}  // namespace
+
+FrmHisab::FrmHisab(const LokasiData& lokasi, QWidget* induk)
+    : QMainWindow(induk),
+      koneksi_(std::make_unique<ClsConnection>(lokasi)),
+      ws_(std::make_unique<Workspace>(*koneksi_)),
+      pekerja_(std::make_unique<Pekerja>(ws_->kemajuan)) {
+    setObjectName("FrmHisab");
+    setWindowTitle(QStringLiteral("falak - Hisab Awal Bulan"));
+    laporanTabel_ = q(LaporanMasalah(koneksi_->masalah())).trimmed();
+    buatTampilan();
+    buatMenu();
+    isiPohon();
+    isiDaerah(QStringLiteral("Pasuruan"));
+    pilihHariIni();
+
+    connect(pekerja_.get(), &Pekerja::maju, this, [this](int nilai, int maksimum) {
+        kemajuan_->setMaximum(std::max(maksimum, 1));
+        kemajuan_->setValue(std::min(nilai, std::max(maksimum, 1)));
+    });
+    connect(pekerja_.get(), &Pekerja::gagal, this, [this](const QString& alasan) {
+        BukaPesan(this, QMessageBox::Critical, QStringLiteral("Sepurane.."),
+                  QStringLiteral("Hisab berhenti karena kesalahan:\n") + alasan);
+    });
+    aturSibuk(false);
+    resize(1280, 800);
+}
+
+FrmHisab::~FrmHisab() {
+    // The job and the tabs read the session: both go before it does.
+    tab_->disconnect(this);
+    pekerja_.reset();
+    while (tab_->count() > 0) delete tab_->widget(0);
+}
+
+void FrmHisab::buatTampilan() {
+    masalah_ = new QLabel;
+    masalah_->setObjectName("lblMasalah");
+    masalah_->setWordWrap(true);
+    masalah_->setTextFormat(Qt::RichText);
+    masalah_->setStyleSheet("QLabel { background: #fff3cd; color: #664d03; border: 1px solid #e0c36c; padding: 4px; }");
+    if (!laporanTabel_.isEmpty()) {
+        // The first line says it plainly; the tables and reasons are one click away.
+        QString judul = laporanTabel_.section(QLatin1Char('\n'), 0, 0);
+        if (judul.endsWith(QLatin1Char(':'))) judul.chop(1);
+        masalah_->setText(judul.toHtmlEscaped() + QStringLiteral(". <a href=\"rincian\">Rinciannya</a>"));
+        masalah_->setToolTip(laporanTabel_);
+        connect(masalah_, &QLabel::linkActivated, this, [this] {
+            BukaPesan(this, QMessageBox::Warning, QStringLiteral("Tabel tidak lengkap"), laporanTabel_);
+        });
+    }
+    masalah_->setVisible(!laporanTabel_.isEmpty());
+
+    daerah_ = new QComboBox;
+    daerah_->setObjectName("cboDaerah");
+    daerah_->setMaxVisibleItems(20);
+    tahunH_ = new QLineEdit;
+    tahunH_->setObjectName("RichTahunH");
+    tahunH_->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,5}"), tahunH_));
+    tahunH_->setMaximumWidth(80);
+    tahunM_ = new QLineEdit;
+    tahunM_->setObjectName("RichTahunM");
+    tahunM_->setReadOnly(true);
+    tahunM_->setFocusPolicy(Qt::NoFocus);
+    tahunM_->setMaximumWidth(80);
+    auto* tahun = new QHBoxLayout;
+    tahun->addWidget(tahunH_);
+    tahun->addWidget(new QLabel(QStringLiteral("H. /")));
+    tahun->addWidget(tahunM_);
+    tahun->addWidget(new QLabel(QStringLiteral("M.")));
+    tahun->addStretch();
+
+    bulan_ = new QListWidget;
+    bulan_->setObjectName("lstBulan");
+    for (const char* baris : kBarisBulan) bulan_->addItem(QString::fromUtf8(baris));
+    bulan_->setFixedHeight(bulan_->sizeHintForRow(0) * 12 + 2 * bulan_->frameWidth() + 2);
+
+    pohon_ = new QTreeWidget;
+    pohon_->setObjectName("TreeKitab");
+    pohon_->setHeaderHidden(true);
+    pohon_->setRootIsDecorated(true);
+
+    auto* pilihan = new QFormLayout;
+    pilihan->addRow(QStringLiteral("&Daerah"), daerah_);
+    auto* labelTahun = new QLabel(QStringLiteral("&Tahun"));
+    labelTahun->setBuddy(tahunH_);
+    pilihan->addRow(labelTahun, tahun);
+    auto* kiri = new QWidget;
+    auto* tataKiri = new QVBoxLayout(kiri);
+    tataKiri->setContentsMargins(6, 6, 6, 6);
+    tataKiri->addLayout(pilihan);
+    auto* labelBulan = new QLabel(QStringLiteral("&Bulan"));
+    labelBulan->setBuddy(bulan_);
+    tataKiri->addWidget(labelBulan);
+    tataKiri->addWidget(bulan_);
+    auto* labelKitab = new QLabel(QStringLiteral("&Kitab"));
+    labelKitab->setBuddy(pohon_);
+    tataKiri->addWidget(labelKitab);
+    tataKiri->addWidget(pohon_, 1);
+
+    tab_ = new QTabWidget;
+    tab_->setObjectName("TabLembar");
+    tab_->setTabsClosable(true);
+    tab_->setMovable(false);
+    tab_->setDocumentMode(true);
+    auto* kosong = new QLabel(QStringLiteral("Pilih daerah, tahun dan bulan, lalu klik kitab pada pohon di kiri."));
+    kosong->setObjectName("lblKosong");
+    kosong->setAlignment(Qt::AlignCenter);
+    kosong->setEnabled(false);
+    tengah_ = new QStackedWidget;
+    tengah_->addWidget(kosong);
+    tengah_->addWidget(tab_);
+
+    auto* belah = new QSplitter(Qt::Horizontal);
+    belah->addWidget(kiri);
+    belah->addWidget(tengah_);
+    belah->setStretchFactor(1, 1);
+    belah->setSizes({240, 1040});
+    belah->setChildrenCollapsible(false);
+
+    auto* pusat = new QWidget;
+    auto* tata = new QVBoxLayout(pusat);
+    tata->setContentsMargins(0, 0, 0, 0);
+    tata->setSpacing(0);
+    tata->addWidget(masalah_);
+    tata->addWidget(belah, 1);
+    setCentralWidget(pusat);
+
+    kemajuan_ = new QProgressBar;
+    kemajuan_->setObjectName("ProgressBar1");
+    kemajuan_->setMaximumWidth(320);
+    kemajuan_->setValue(0);
+    stop_ = new QPushButton(QStringLiteral("&Stop"));
+    stop_->setObjectName("btnStop");
+    statusBar()->addPermanentWidget(kemajuan_);
+    statusBar()->addPermanentWidget(stop_);
+
+    connect(pohon_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
+        const QString kode = item->data(0, kPeranKitab).toString();
+        if (!kode.isEmpty()) prosesKitab(kode.toStdString());
+    });
+    auto* enter = new QShortcut(QKeySequence(Qt::Key_Return), pohon_, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(enter, &QShortcut::activated, this, [this] {
+        if (QTreeWidgetItem* item = pohon_->currentItem()) emit pohon_->itemClicked(item, 0);
+    });
+    connect(tahunH_, &QLineEdit::textEdited, this, &FrmHisab::konversiTahun);
+    connect(bulan_, &QListWidget::currentRowChanged, this, &FrmHisab::konversiTahun);
+    connect(stop_, &QPushButton::clicked, this, &FrmHisab::tanyaBerhenti);
+    connect(tab_, &QTabWidget::tabCloseRequested, this, &FrmHisab::tutupTab);
+    connect(tab_, &QTabWidget::currentChanged, this, [this](int i) {
+        if (pekerja_->sibuk() || i < 0) return;
+        if (auto* t = qobject_cast<TabLembar*>(tab_->widget(i))) ws_->sesi.kunciTab = t->lembar().kunci;
+    });
+}
+
+void FrmHisab::buatMenu() {
+    auto aksi = [this](QMenu* menu, const QString& kunci, const QString& judul) {
+        QAction* a = menu->addAction(judul);
+        a->setObjectName(kunci);
+        return a;
+    };
+
+    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
+    file->setObjectName("FILE");
+    QAction* keluar = aksi(file, "mnuExit", QStringLiteral("Keluar (&Exit)"));
+    keluar->setShortcut(QKeySequence::Quit);
+    connect(keluar, &QAction::triggered, this, &QWidget::close);
+
+    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
+    edit->setObjectName("EDIT");
+    QAction* daerah = aksi(edit, "mnuNewDaerah", QStringLiteral("Tambah/Hapus &Daerah"));
+    connect(daerah, &QAction::triggered, this, &FrmHisab::bukaDaerah);
+    perintah_ << daerah;
+
+    QMenu* proses = menuBar()->addMenu(QStringLiteral("Proses"));
+    proses->setObjectName("PROSESMENU");
+    QMenu* ijtima = proses->addMenu(QStringLiteral("Hisab Awal Bulan"));
+    ijtima->setObjectName("mnuProsesIj");
+    for (const Kitab* k : ws_->kitabTersedia()) {
+        QAction* a = aksi(ijtima, QStringLiteral("mnuProsesIj|%1").arg(k->kodeLembar), q(k->nama));
+        connect(a, &QAction::triggered, this, [this, kode = k->kode] { prosesKitab(kode); });
+        perintah_ << a;
+    }
+    proses->addSeparator();
+    QAction* semua = aksi(proses, "mnuProsesAll", QStringLiteral("Proses semua metode"));
+    connect(semua, &QAction::triggered, this, [this] {
+        prosesBatch([this](const std::string& tahun, int bulan, const std::string& tempat) {
+            return ws_->mnuProsesAllSub(tahun, bulan, tempat);
+        });
+    });
+    perintah_ << semua;
+    QMenu* perBulan = proses->addMenu(QStringLiteral("Bulan"));
+    perBulan->setObjectName("mnuBulan");
+    for (int b = 1; b <= 12; ++b) {
+        QAction* a = aksi(perBulan, QStringLiteral("mnuBulan|%1").arg(b), QString::fromUtf8(kBarisBulan[b - 1]));
+        connect(a, &QAction::triggered, this, [this, b] {
+            prosesBatch([this, b](const std::string& tahun, int, const std::string& tempat) {
+                return ws_->mnuProsesAllSub(tahun, b, tempat);
+            });
+        });
+        perintah_ << a;
+    }
+    QAction* setahun = aksi(proses, "mnu12Bulan", QStringLiteral("Satu tahun"));
+    connect(setahun, &QAction::triggered, this, [this] {
+        prosesBatch([this](const std::string& tahun, int, const std::string& tempat) {
+            return ws_->duaBelasBulanSemuaKitab(tahun, tempat);
+        });
+    });
+    perintah_ << setahun;
+
+    menuLembar_ = menuBar()->addMenu(QStringLiteral("&Lembar"));
+    menuLembar_->setObjectName("SHEETSMENU");
+    menuLembar_->menuAction()->setVisible(false);
+
+    QMenu* bantuan = menuBar()->addMenu(QStringLiteral("&Help"));
+    bantuan->setObjectName("HELP");
+    connect(aksi(bantuan, "mnuAbout", QStringLiteral("Seng Nggawe Program")), &QAction::triggered, this,
+            &FrmHisab::tentang);
+}
+
+void FrmHisab::isiPohon() {
+    // A group row (no CodeGarapan) opens a group; the treatises under it that exist follow.
+    // A treatise that does not exist yet is left out, and so is a group left empty.
+    std::vector<std::string> ada;
+    for (const Kitab* k : ws_->kitabTersedia()) ada.push_back(k->kode);
+    Tabel& nodes = koneksi_->Nodes;
+    QTreeWidgetItem* kelompok = nullptr;
+    for (nodes.moveFirst(); !nodes.eof(); nodes.moveNext()) {
+        const std::string teks = BacaTeks(nodes, "Text");
+        const std::string garapan = BacaTeks(nodes, "CodeGarapan");
+        const std::string kode = BacaTeks(nodes, "CodeKitab");
+        if (garapan.empty()) {
+            kelompok = new QTreeWidgetItem({q(teks)});
+            kelompok->setFlags(Qt::ItemIsEnabled);
+            pohon_->addTopLevelItem(kelompok);
+            continue;
+        }
+        if (garapan != "Ij" || std::find(ada.begin(), ada.end(), kode) == ada.end()) continue;
+        auto* item = new QTreeWidgetItem({q(teks)});
+        item->setData(0, kPeranKitab, q(kode));
+        if (const Kitab* k = CariKitab(kode)) item->setToolTip(0, q(k->nama));
+        if (kelompok)
+            kelompok->addChild(item);
+        else
+            pohon_->addTopLevelItem(item);
+    }
+    for (int i = pohon_->topLevelItemCount() - 1; i >= 0; --i) {
+        QTreeWidgetItem* t = pohon_->topLevelItem(i);
+        if (t->data(0, kPeranKitab).toString().isEmpty() && t->childCount() == 0) delete pohon_->takeTopLevelItem(i);
+    }
+    pohon_->expandAll();
+}
+
+void FrmHisab::isiDaerah(const QString& pilih) {
+    QSignalBlocker tahan(daerah_);
+    daerah_->clear();
+    for (const Tempat& t : koneksi_->registerDaerah().daftar())
+        if (!t.nama.empty()) daerah_->addItem(q(t.nama));
+    // The run falls back on Pasuruan's own record when the register lacks it, so it is always
+    // a place to choose.
+    const QString cadangan = q(Tempat::cadangan().nama);
+    if (daerah_->findText(cadangan, Qt::MatchFixedString) < 0) daerah_->insertItem(0, cadangan);
+    int i = daerah_->findText(pilih, Qt::MatchFixedString);
+    if (i < 0) i = daerah_->findText(cadangan, Qt::MatchFixedString);
+    daerah_->setCurrentIndex(i);
+}
+
+void FrmHisab::pilihHariIni() {
+    const auto [tahun, bulan] = bulanHijriHariIni(ws_->kesimpulan);
+    tahunH_->setText(QString::number(tahun));
+    QSignalBlocker tahan(bulan_);
+    bulan_->setCurrentRow(bulan - 1);
+    tahan.unblock();
+    konversiTahun();
+}
+
+bool FrmHisab::pilih(const QString& tempat, const QString& tahun, int bulan) {
+    const int i = daerah_->findText(tempat, Qt::MatchFixedString);
+    if (i < 0 || bulan < 0 || bulan > 12) return false;
+    daerah_->setCurrentIndex(i);
+    if (!tahun.isNull()) tahunH_->setText(tahun);
+    if (bulan) bulan_->setCurrentRow(bulan - 1);
+    konversiTahun();
+    return true;
+}
+
+QString FrmHisab::tempatTerpilih() const { return daerah_->currentText(); }
+std::string FrmHisab::tahunTeks() const { return tahunH_->text().toStdString(); }
+int FrmHisab::bulanTerpilih() const { return std::max(bulan_->currentRow(), 0) + 1; }
+
+void FrmHisab::konversiTahun() {
+    if (pekerja_->sibuk()) return;
+    const std::string teks = tahunTeks();
+    const auto tahun = BulatGenap32(ValAngka(teks));
+    if (teks.empty() || !tahun) {
+        tahunM_->clear();
+        return;
+    }
+    if (ws_->kesimpulan.ConvertToHijri(*tahun, static_cast<int16_t>(bulanTerpilih()), 1))
+        tahunM_->setText(q(ws_->sesi.tahunMasehi));
+    else
+        tahunM_->clear();
+}
+
+void FrmHisab::mulaiKerja(std::function<std::function<void()>()> tugas) {
+    if (!pekerja_->mulai(std::move(tugas))) return;
+    aturSibuk(true);
+}
+
+void FrmHisab::prosesKitab(const std::string& kode) {
+    const std::string tahun = tahunTeks();
+    const int bulan = bulanTerpilih();
+    const std::string tempat = tempatTerpilih().toStdString();
+    mulaiKerja([this, kode, tahun, bulan, tempat]() -> std::function<void()> {
+        const Workspace::HasilProses hasil = ws_->mnuProsesIjSub(kode, tahun, bulan, tempat);
+        return [this, hasil] { selesaiProses(hasil); };
+    });
+}
+
+void FrmHisab::prosesBatch(
+    std::function<Workspace::HasilBatch(const std::string& tahun, int bulan, const std::string& tempat)> batch) {
+    const std::string tahun = tahunTeks();
+    const int bulan = bulanTerpilih();
+    const std::string tempat = tempatTerpilih().toStdString();
+    mulaiKerja([this, batch, tahun, bulan, tempat]() -> std::function<void()> {
+        const Workspace::HasilBatch hasil = batch(tahun, bulan, tempat);
+        return [this, hasil] { selesaiBatch(hasil); };
+    });
+}
+
+void FrmHisab::aturSibuk(bool sibuk) {
+    for (QAction* a : perintah_) a->setEnabled(!sibuk);
+    pohon_->setEnabled(!sibuk);
+    daerah_->setEnabled(!sibuk);
+    stop_->setEnabled(sibuk);
+    if (sibuk) {
+        kemajuan_->setValue(0);
+        statusBar()->showMessage(QStringLiteral("Sedang menghisab..."));
+    } else {
+        statusBar()->clearMessage();
+        // A question still open when the job ended has nothing left to stop.
+        if (tanya_) tanya_->reject();
+    }
+}
+
+void FrmHisab::selesaiProses(const Workspace::HasilProses& hasil) {
+    aturSibuk(false);
+    if (hasil.pesan) {
+        tampilkanPesan(*hasil.pesan);
+        return;
+    }
+    if (!hasil.lembar) return;
+    tambahTab(*hasil.lembar);
+    tab_->setCurrentIndex(tab_->count() - 1);
+    tahunH_->setText(q(ws_->sesi.tahunHijri));
+    tahunM_->setText(q(ws_->sesi.tahunMasehi));
+}
+
+void FrmHisab::selesaiBatch(const Workspace::HasilBatch& hasil) {
+    aturSibuk(false);
+    if (hasil.pesan) {
+        tampilkanPesan(*hasil.pesan);
+        return;
+    }
+    for (const LembarKerja* l : hasil.lembar) tambahTab(*l);
+    if (!hasil.lembar.empty()) {
+        tab_->setCurrentIndex(tab_->count() - 1);
+        tahunH_->setText(q(ws_->sesi.tahunHijri));
+        tahunM_->setText(q(ws_->sesi.tahunMasehi));
+    }
+    if (hasil.dihentikan)
+        statusBar()->showMessage(QStringLiteral("Proses dihentikan: %1 lembar selesai.").arg(hasil.lembar.size()), 8000);
+}
+
+void FrmHisab::tampilkanPesan(const Workspace::Pesan& pesan) {
+    // Every message of the session ends the command it answers: the stop sign, one button.
+    BukaPesan(this, QMessageBox::Critical, q(pesan.judul), q(pesan.teks));
+}
+
+void FrmHisab::tambahTab(const LembarKerja& lembar) {
+    auto* t = new TabLembar(lembar);
+    const int i = tab_->addTab(t, q(lembar.judul));
+    const Kitab* k = CariKitab(lembar.kitab);
+    tab_->setTabToolTip(i, (k ? q(k->nama) : q(lembar.kitab)) + QStringLiteral(" (") + q(lembar.kunci) + QLatin1Char(')'));
+    tengah_->setCurrentWidget(tab_);
+    perbaruiMenuLembar();
+}
+
+void FrmHisab::tutupTab(int indeks) {
+    if (pekerja_->sibuk()) return;
+    auto* t = qobject_cast<TabLembar*>(tab_->widget(indeks));
+    if (!t) return;
+    const LembarKerja* lembar = &t->lembar();
+    tab_->removeTab(indeks);
+    delete t;
+    auto& semua = ws_->lembar;
+    semua.erase(std::remove_if(semua.begin(), semua.end(), [lembar](const auto& l) { return l.get() == lembar; }),
+                semua.end());
+    if (tab_->count() == 0) tengah_->setCurrentIndex(0);
+    perbaruiMenuLembar();
+}
+
+void FrmHisab::perbaruiMenuLembar() {
+    menuLembar_->clear();
+    for (int i = 0; i < tab_->count(); ++i) {
+        QAction* a = menuLembar_->addAction(tab_->tabText(i) + QStringLiteral("  -  ") + tab_->tabToolTip(i));
+        a->setObjectName(QStringLiteral("mnuSheet|%1").arg(i + 1));
+        connect(a, &QAction::triggered, this, [this, i] { tab_->setCurrentIndex(i); });
+    }
+    menuLembar_->menuAction()->setVisible(tab_->count() > 0);
+}
+
+void FrmHisab::tanyaBerhenti() {
+    if (!pekerja_->sibuk() || tanya_) return;
+    // The job waits while the user makes up their mind, so that "yes" stops it where it was.
+    pekerja_->tahan();
+    tanya_ = BukaPesan(this, QMessageBox::Warning, QStringLiteral("Ga' Sabaran"),
+                       QStringLiteral("Yakin akan menghentikan proses ?"), QMessageBox::Ok | QMessageBox::Cancel,
+                       [this](QMessageBox::StandardButton jawab) {
+                           tanya_ = nullptr;
+                           pekerja_->lepas(jawab == QMessageBox::Ok);
+                       });
+    tanya_->setObjectName("tanyaBerhenti");
+}
+
+void FrmHisab::bukaDaerah() {
+    if (pekerja_->sibuk()) return;
+    auto* dialog = new FrmDaerah(*koneksi_, this);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::finished, this, [this, dialog] {
+        if (dialog->berubah()) isiDaerah(tempatTerpilih());
+    });
+    dialog->open();
+}
+
+void FrmHisab::tentang() {
+    BukaPesan(this, QMessageBox::Information, QStringLiteral("Seng Nggawe Program"),
+              QStringLiteral("Lek botoh bantuan nilpuno nang seng gawe :\n\n"
+                             "Nama : Tim pengembang falak\n"
+                             "Alamat : -\n"
+                             "Email : -\n"
+                             "Telp. : -"));
+}
+
+bool FrmHisab::simpanGambar(const QString& berkas) { return grab().save(berkas, "PNG"); }
+
+void FrmHisab::closeEvent(QCloseEvent* e) {
+    // A batch still running is asked to stop; the thread is joined when the window goes.
+    if (pekerja_->sibuk()) pekerja_->lepas(true);
+    QMainWindow::closeEvent(e);
+}
+
+}  // namespace falak::ui

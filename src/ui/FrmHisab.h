@@ -1,0 +1,111 @@
+// The main window: the place, the Hijri year and month, the tree of treatises, the work sheets
+// on their tabs, the menus, the progress bar and the stop button.
+//
+// The window owns the session. Runs and batches go to the worker thread one at a time; while
+// one runs the commands that would start another are disabled, the progress bar moves and the
+// stop button asks whether to stop. The window touches the session only while it is idle.
+#pragma once
+
+#include <QMainWindow>
+
+#include <memory>
+#include <string>
+
+#include "core/Berkas.h"
+#include "run/Workspace.h"
+
+class QAction;
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QMenu;
+class QMessageBox;
+class QProgressBar;
+class QPushButton;
+class QStackedWidget;
+class QTabWidget;
+class QTreeWidget;
+class QTreeWidgetItem;
+
+namespace falak {
+class ClsConnection;
+}
+
+namespace falak::ui {
+
+class Pekerja;
+class TabLembar;
+
+class FrmHisab : public QMainWindow {
+    Q_OBJECT
+public:
+    // Opens the tables from the two folders and sets the window up; a table that could not be
+    // read is told in a line at the top of the window.
+    explicit FrmHisab(const LokasiData& lokasi, QWidget* induk = nullptr);
+    ~FrmHisab() override;
+
+    // A run of one treatise for the chosen place, year and month, as a click in the tree does.
+    void prosesKitab(const std::string& kode);
+    // Chooses the place, the year and the month, as the user would; a null year or a month 0
+    // keeps what is chosen. False when the place is not in the list or the month is past 12.
+    bool pilih(const QString& tempat, const QString& tahun, int bulan);
+    // The whole window as a picture.
+    bool simpanGambar(const QString& berkas);
+
+    Pekerja& pekerja() const { return *pekerja_; }
+    // The report of the tables that could not be read; empty when all were.
+    const QString& laporanTabel() const { return laporanTabel_; }
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+
+private:
+    void buatTampilan();
+    void buatMenu();
+    void isiPohon();
+    void isiDaerah(const QString& pilih);
+    void pilihHariIni();
+
+    QString tempatTerpilih() const;
+    std::string tahunTeks() const;
+    int bulanTerpilih() const;
+
+    // One job on the worker thread; the commands are disabled until it is over.
+    void mulaiKerja(std::function<std::function<void()>()> tugas);
+    void prosesBatch(std::function<Workspace::HasilBatch(const std::string& tahun, int bulan, const std::string& tempat)> batch);
+    void aturSibuk(bool sibuk);
+    void selesaiProses(const Workspace::HasilProses& hasil);
+    void selesaiBatch(const Workspace::HasilBatch& hasil);
+    void tampilkanPesan(const Workspace::Pesan& pesan);
+    void tambahTab(const LembarKerja& lembar);
+    void tutupTab(int indeks);
+    void perbaruiMenuLembar();
+    // The Masehi year box after the Hijri year or month changed; the box shows the year in
+    // which the chosen month begins, as every conversion writes it.
+    void konversiTahun();
+    void tanyaBerhenti();
+    void bukaDaerah();
+    void tentang();
+
+    std::unique_ptr<ClsConnection> koneksi_;
+    std::unique_ptr<Workspace> ws_;
+    std::unique_ptr<Pekerja> pekerja_;
+    QString laporanTabel_;
+
+    QLabel* masalah_ = nullptr;
+    QComboBox* daerah_ = nullptr;
+    QLineEdit* tahunH_ = nullptr;
+    QLineEdit* tahunM_ = nullptr;
+    QListWidget* bulan_ = nullptr;
+    QTreeWidget* pohon_ = nullptr;
+    QStackedWidget* tengah_ = nullptr;
+    QTabWidget* tab_ = nullptr;
+    QProgressBar* kemajuan_ = nullptr;
+    QPushButton* stop_ = nullptr;
+    QMenu* menuLembar_ = nullptr;
+    QMessageBox* tanya_ = nullptr;
+    QList<QAction*> perintah_;  // the commands that start a job or change the register
+};
+
+}  // namespace falak::ui

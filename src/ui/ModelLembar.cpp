@@ -1,0 +1,127 @@
+#include "ui/ModelLembar.h"
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QHeaderView>
+#include <QScrollBar>
+
+#include <algorithm>
+#include <vector>
+
+#include "core/Sheet.h"
+
+namespace falak::ui {
+
+namespace {
+
+bool angka(const std::string& teks) {
+    if (teks.empty()) return false;
+    const size_t awal = teks[0] == '-' ? 1 : 0;
+    return awal < teks.size() && std::all_of(teks.begin() + static_cast<long>(awal), teks.end(),
+                                             [](char c) { return c >= '0' && c <= '9'; });
+}
+
+// Amiri draws its letters small for their line height; a size up makes them read like the
+// Latin digits beside them.
+QFont fontLembar(const Sheet& lembar) {
+    QFont f = QApplication::font();
+    if (!lembar.font.empty()) f.setFamily(QString::fromStdString(lembar.font));
+    if (lembar.arab) f.setPointSizeF(f.pointSizeF() + 2);
+    return f;
+}
+
+}  // namespace
+
+ModelLembar::ModelLembar(const Sheet& lembar, QObject* induk) : QAbstractTableModel(induk), lembar_(lembar) {}
+
+int ModelLembar::rowCount(const QModelIndex& induk) const { return induk.isValid() ? 0 : lembar_.jumlahBaris(); }
+
+int ModelLembar::columnCount(const QModelIndex& induk) const { return induk.isValid() ? 0 : lembar_.jumlahKolom(); }
+
+QVariant ModelLembar::data(const QModelIndex& indeks, int peran) const {
+    if (!indeks.isValid()) return {};
+    const std::string& teks = lembar_.sel(indeks.row(), indeks.column());
+    switch (peran) {
+        case Qt::DisplayRole:
+            return teks.empty() ? QVariant() : QVariant(QString::fromStdString(teks));
+        case Qt::TextAlignmentRole:
+            // Absolute, so that a cell laid out from right to left still keeps to the right.
+            if (lembar_.dibacaDariKanan || angka(teks))
+                return QVariant::fromValue(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+            return QVariant::fromValue(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
+        default:
+            return {};
+    }
+}
+
+void DelegasiLembar::initStyleOption(QStyleOptionViewItem* pilihan, const QModelIndex& indeks) const {
+    QStyledItemDelegate::initStyleOption(pilihan, indeks);
+    pilihan->direction = pilihan->text.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight;
+}
+
+GridLembar::GridLembar(const Sheet& lembar, QWidget* induk) : QTableView(induk), model_(new ModelLembar(lembar, this)) {
+    setObjectName("GridLembar");
+    // The sheet already stands as it is read; a mirrored view would turn it around.
+    setLayoutDirection(Qt::LeftToRight);
+    setModel(model_);
+    setItemDelegate(new DelegasiLembar(this));
+    setFont(fontLembar(lembar));
+    horizontalHeader()->hide();
+    verticalHeader()->hide();
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setSelectionMode(QAbstractItemView::ContiguousSelection);
+    setWordWrap(false);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    for (const Gabungan& g : lembar.gabungan()) setSpan(g.baris, g.kolom1, 1, g.kolom2 - g.kolom1 + 1);
+    aturUkuran();
+}
+
+void GridLembar::aturUkuran() {
+    const Sheet& l = model_->lembar();
+    const QFontMetrics fm(font());
+    const int celah = fm.horizontalAdvance(QLatin1Char('0'));
+    const int sempit = celah + 2;  // an empty column: the spare one between two fields
+    std::vector<int> lebar(static_cast<size_t>(l.jumlahKolom()), sempit);
+    std::vector<bool> digabung(static_cast<size_t>(l.jumlahBaris()) * static_cast<size_t>(l.jumlahKolom()), false);
+    auto ke = [&](int b, int k) { return static_cast<size_t>(b) * static_cast<size_t>(l.jumlahKolom()) + static_cast<size_t>(k); };
+    for (const Gabungan& g : l.gabungan())
+        for (int k = g.kolom1; k <= g.kolom2; ++k) digabung[ke(g.baris, k)] = true;
+    auto perlu = [&](const std::string& teks) { return fm.horizontalAdvance(QString::fromStdString(teks)) + 2 * celah; };
+
+    for (int b = 0; b < l.jumlahBaris(); ++b)
+        for (int k = 0; k < l.jumlahKolom(); ++k)
+            if (!digabung[ke(b, k)] && !l.sel(b, k).empty())
+                lebar[static_cast<size_t>(k)] = std::max(lebar[static_cast<size_t>(k)], perlu(l.sel(b, k)));
+    // The narrow merges first: what they add to their columns is then already there for the
+    // wide ones, such as a heading across the whole sheet.
+    std::vector<Gabungan> gabungan = l.gabungan();
+    std::sort(gabungan.begin(), gabungan.end(),
+              [](const Gabungan& a, const Gabungan& b) { return a.kolom2 - a.kolom1 < b.kolom2 - b.kolom1; });
+    for (const Gabungan& g : gabungan) {
+        const std::string& teks = l.sel(g.baris, g.kolom1);
+        if (teks.empty()) continue;
+        int ada = 0;
+        for (int k = g.kolom1; k <= g.kolom2; ++k) ada += lebar[static_cast<size_t>(k)];
+        const int n = g.kolom2 - g.kolom1 + 1;
+        const int kurang = perlu(teks) - ada;
+        if (kurang > 0)
+            for (int k = g.kolom1; k <= g.kolom2; ++k) lebar[static_cast<size_t>(k)] += (kurang + n - 1) / n;
+    }
+    for (int k = 0; k < l.jumlahKolom(); ++k) setColumnWidth(k, lebar[static_cast<size_t>(k)]);
+    // Amiri keeps room above and below for stacked marks that the sheets' words do not use.
+    const int tinggi = l.arab ? fm.ascent() * 9 / 10 + fm.descent() * 2 / 3 : fm.height();
+    verticalHeader()->setMinimumSectionSize(1);
+    verticalHeader()->setDefaultSectionSize(tinggi + 4);
+}
+
+void GridLembar::showEvent(QShowEvent* e) {
+    QTableView::showEvent(e);
+    // The sheet begins at its right edge, where its labels stand.
+    if (!sudahTampil_) {
+        sudahTampil_ = true;
+        horizontalScrollBar()->setValue(horizontalScrollBar()->maximum());
+    }
+}
+
+}  // namespace falak::ui

@@ -1,0 +1,124 @@
+// The batches without sheets and the commands that print them: what runs, in which order, the
+// progress and the stop, and the table and JSON that the user reads.
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+#include "FolderUji.h"
+#include "cli/PerintahBatch.h"
+#include "core/Koneksi.h"
+#include "run/Workspace.h"
+
+using namespace falak;
+
+namespace {
+
+struct Batch : testing::Test {
+    uji::FolderUji folder{"falak-batch"};
+
+    void SetUp() override {
+        folder.tabel("Balad", "BaladIN,BaladAR,DarojatArdlu,DaqiqohArdlu,ArahArdlu,DarojatThul,DaqiqohThul,ArahThul,"
+                              "ZonaTime,Ketinggian\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n");
+    }
+    int jalan(int (*perintah)(const std::vector<std::string>&, const LokasiData&, std::ostream&, std::ostream&),
+              std::vector<std::string> argumen, std::string& keluar, std::string& galat) {
+        std::ostringstream out, err;
+        const int s = perintah(argumen, folder.lokasi(), out, err);
+        keluar = out.str();
+        galat = err.str();
+        return s;
+    }
+};
+
+// The taqribi treatises that have modules, in the order of the tree.
+const std::vector<std::string> kUrutan = {"SN", "FR", "IDB1", "TZ", "KW1", "FK"};
+
+}  // namespace
+
+TEST_F(Batch, AllTreatisesForAMonthWithoutSheets) {
+    ClsConnection koneksi(folder.lokasi());
+    Workspace ws(koneksi);
+    std::vector<std::pair<int, int>> lapor;
+    ws.kemajuan.atasLapor([&](int n, int maks) { lapor.emplace_back(n, maks); });
+    const auto h = ws.mnuProsesAllSub("1445", 8, "Pasuruan", Workspace::Keluaran::Ringkas);
+    ASSERT_FALSE(h.pesan);
+    EXPECT_TRUE(h.lembar.empty());
+    EXPECT_TRUE(ws.lembar.empty());
+    ASSERT_EQ(h.ringkas.size(), kUrutan.size());
+    for (size_t i = 0; i < kUrutan.size(); ++i) {
+        EXPECT_EQ(h.ringkas[i].kitab->kode, kUrutan[i]);
+        EXPECT_EQ(h.ringkas[i].bulan, 8);
+        EXPECT_EQ(h.ringkas[i].kesimpulan.size(), 13u);
+    }
+    // The bar starts at 0 of six and moves once a run, whatever the methods do inside.
+    ASSERT_FALSE(lapor.empty());
+    EXPECT_EQ(lapor.front(), std::make_pair(0, 6));
+    EXPECT_EQ(lapor.back(), std::make_pair(6, 6));
+    EXPECT_EQ(lapor.size(), 7u);
+    EXPECT_FALSE(ws.kemajuan.batch);
+}
+
+TEST_F(Batch, TwelveMonthsAndTheStopBetweenRuns) {
+    ClsConnection koneksi(folder.lokasi());
+    Workspace ws(koneksi);
+    auto h = ws.mnu12BulanSub("FR", "1445", "Pasuruan", Workspace::Keluaran::Ringkas);
+    ASSERT_EQ(h.ringkas.size(), 12u);
+    EXPECT_EQ(h.ringkas[11].bulan, 12);
+
+    // Months first, the treatises within each month.
+    h = ws.duaBelasBulanSemuaKitab("1445", "Pasuruan", Workspace::Keluaran::Ringkas);
+    ASSERT_EQ(h.ringkas.size(), 12 * kUrutan.size());
+    EXPECT_EQ(h.ringkas[6].kitab->kode, "SN");
+    EXPECT_EQ(h.ringkas[6].bulan, 2);
+
+    // A stop raised during the third run ends the batch before the fourth.
+    ws.kemajuan.atasLapor([&](int n, int) {
+        if (n == 3) ws.kemajuan.berhenti = true;
+    });
+    h = ws.duaBelasBulanSemuaKitab("1445", "Pasuruan", Workspace::Keluaran::Ringkas);
+    EXPECT_TRUE(h.dihentikan);
+    EXPECT_EQ(h.ringkas.size(), 3u);
+
+    // With sheets the same batch makes one sheet a run.
+    ws.kemajuan.atasLapor(nullptr);
+    h = ws.mnu12BulanSub("TZ", "1445", "Pasuruan");
+    EXPECT_EQ(h.lembar.size(), 12u);
+    EXPECT_EQ(ws.lembar.size(), 12u);
+    EXPECT_TRUE(ws.mnu12BulanSub("TZ", "", "Pasuruan", Workspace::Keluaran::Ringkas).pesan);
+}
+
+TEST_F(Batch, CommandsPrintAlignedTablesAndJson) {
+    std::string out, err;
+    ASSERT_EQ(jalan(cli::perintahSemua, {"--tahun", "1445", "--bulan", "8"}, out, err), 0) << err;
+    std::istringstream baris(out);
+    std::string tempat, kepala, b;
+    std::getline(baris, tempat);
+    EXPECT_EQ(tempat, "Tempat: Pasuruan");
+    std::getline(baris, kepala);
+    const size_t kolomAwal = kepala.find("Awal bulan");
+    ASSERT_NE(kolomAwal, std::string::npos);
+    size_t n = 0;
+    while (std::getline(baris, b)) {
+        EXPECT_EQ(b.substr(0, kUrutan[n].size()), kUrutan[n]);
+        // Every line is as long, up to the last column, as the heading (in characters).
+        size_t kar = 0, i = 0;
+        for (; i < b.size() && kar < kolomAwal; ++i)
+            if ((static_cast<unsigned char>(b[i]) & 0xC0) != 0x80) ++kar;
+        EXPECT_EQ(b[i - 1], ' ') << b;
+        EXPECT_NE(b[i], ' ') << b;
+        ++n;
+    }
+    EXPECT_EQ(n, kUrutan.size());
+
+    ASSERT_EQ(jalan(cli::perintahSetahun, {"--kitab", "KW1", "--tahun", "1445", "--json"}, out, err), 0) << err;
+    EXPECT_EQ(out.front(), '{');
+    EXPECT_NE(out.find("\"kitab\": \"KW1\", \"nama\": \"Khulashotu al-Wafiyah Taqribi\", \"tahun\": 1445, \"bulan\": 12"),
+              std::string::npos);
+
+    EXPECT_EQ(jalan(cli::perintahSemua, {"--tahun", "1445", "--bulan", "13"}, out, err), 2);
+    EXPECT_NE(err.find("bulan \"13\" tidak ada"), std::string::npos);
+    EXPECT_EQ(jalan(cli::perintahSetahun, {"--kitab", "XX", "--tahun", "1445"}, out, err), 2);
+    EXPECT_NE(err.find("kitab \"XX\" tidak dikenal"), std::string::npos);
+    EXPECT_EQ(jalan(cli::perintahSetahun, {"--kitab", "SN", "--tahun", "1445", "--markaz", "Atlantis"}, out, err), 2);
+    EXPECT_TRUE(out.empty());
+}

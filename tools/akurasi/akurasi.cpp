@@ -1,0 +1,289 @@
+// How near the taqribi treatises come to the sky: a tool, never part of the program (it links
+// the Swiss Ephemeris, whose licence the program does not take on).
+//
+// For each treatise at its own markaz, over every month of the Hijri years 1440 to 1446:
+//
+//  1. The mean ijtima' of the book (the alamah of its year and month rows, month m adding m - 1
+//     mean lunations) against the true conjunction, as weekday and hours from sunset (18:00
+//     local mean time): the offset that the book's equations must take back, and which
+//     lunation the book's month m counts (the one that ends month m, or the one that opens it).
+//  2. The whole reckoning as the program runs it (the first of the month without a sheet): its
+//     ijtima' against the true geocentric conjunction (apparent longitudes) in local apparent
+//     time, its hilal's height against the true geocentric airless height of the moon's centre
+//     at the true sunset of the markaz that ends the day of the book's ijtima', and its first
+//     of the month against the first of the month that the same rule (below 2 degrees two days
+//     after the ijtima's day, else one) gives on the true conjunction and height.
+//  3. The hours per degree of table 6 at Tadzkirotu's own anomaly against the true rate of
+//     elongation at each true conjunction.
+//
+// Run from the top of the repository (it reads data/): ./build/bin/akurasi
+#include <swephexp.h>
+
+#include <array>
+#include <cmath>
+#include <cstdio>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "core/FungsHisab.h"
+#include "core/Kalender.h"
+#include "core/Koneksi.h"
+#include "methods/taqribi/FathurRouf.h"
+#include "methods/taqribi/SullamNairoin.h"
+#include "run/Workspace.h"
+
+using namespace falak;
+
+namespace {
+
+constexpr int kTahunAwal = 1440, kTahunAkhir = 1446;
+constexpr double kBulan = 29.530589;
+
+struct Markaz {
+    const char* kitab;
+    const char* tempat;
+    double lintang, bujur;  // degrees, north and east positive
+};
+const Markaz kMarkaz[] = {{"SN", "Jakarta", -(6 + 15 / 60.0), 106 + 52 / 60.0},
+                          {"FR", "Semarang", -(6 + 56 / 60.0), 110 + 24 / 60.0},
+                          {"IDB1", "Surabaya", -(7 + 15 / 60.0), 112 + 46 / 60.0},
+                          {"TZ", "Semarang", -(6 + 56 / 60.0), 110 + 24 / 60.0},
+                          {"KW1", "Makkah", 21 + 25 / 60.0, 39 + 57 / 60.0},
+                          {"FK", "Sampang", -(7 + 11 / 60.0), 113 + 15 / 60.0}};
+
+double bujurBeda(double a, double b) { return std::remainder(a - b, 360.0); }
+
+void posisi(double jd, int benda, int flag, double* xx) {
+    char err[256];
+    swe_calc_ut(jd, benda, SEFLG_SWIEPH | SEFLG_SPEED | flag, xx, err);
+}
+
+// The true conjunction (apparent geocentric longitudes) nearest to jd.
+double ijtimaSejati(double jd) {
+    for (int i = 0; i < 20; ++i) {
+        double m[6], s[6];
+        posisi(jd, SE_MOON, 0, m);
+        posisi(jd, SE_SUN, 0, s);
+        const double d = bujurBeda(m[0], s[0]);
+        jd -= d / (m[3] - s[3]);
+        if (std::fabs(d) < 1e-7) break;
+    }
+    return jd;
+}
+
+// The conjunction that ends Hijri month (tahun, bulan): near the 29th of the month of the
+// arithmetical calendar (1 Muharram 1 = JD 1948439.5).
+double ijtimaAkhirBulan(int tahun, int bulan) {
+    return ijtimaSejati(1948439.5 + (12.0 * (tahun - 1) + bulan) * kBulan - 1.0);
+}
+
+// Weekday (1 Ahad .. 7 Sabtu) and hours since 18:00 of the day before, of a local time (JD of
+// the local clock, so that .5 is midnight).
+struct HariJam {
+    int hari;
+    double jam;
+};
+HariJam hariJam(double jdLokal) {
+    double t = jdLokal + 0.25;  // from 18:00 the day before
+    const double hariJd = std::floor(t + 0.5);
+    return {HariPekan(static_cast<int64_t>(hariJd) - 1721423), (t + 0.5 - hariJd) * 24};
+}
+
+double jamMinggu(int hari, double jam) { return (hari % 7) * 24 + jam; }
+
+// A difference of times of the week in hours, into (-84, 84].
+double bedaMinggu(double a, double b) {
+    double d = std::fmod(a - b, 168.0);
+    if (d > 84) d -= 168;
+    if (d <= -84) d += 168;
+    return d;
+}
+
+struct Stat {
+    double jumlah = 0, mutlak = 0, maks = 0;
+    int n = 0;
+    void tambah(double x) {
+        jumlah += x;
+        mutlak += std::fabs(x);
+        if (std::fabs(x) > std::fabs(maks)) maks = x;
+        ++n;
+    }
+    double rata() const { return n ? jumlah / n : 0; }
+    double rataMutlak() const { return n ? mutlak / n : 0; }
+};
+
+double tinggiGeosentris(double jdUt, double lintang, double bujur) {
+    double q[6];
+    posisi(jdUt, SE_MOON, SEFLG_EQUATORIAL, q);
+    const double lst = swe_sidtime(jdUt) * 15 + bujur;
+    const double H = (lst - q[0]) * M_PI / 180, d = q[1] * M_PI / 180, f = lintang * M_PI / 180;
+    return std::asin(std::sin(f) * std::sin(d) + std::cos(f) * std::cos(d) * std::cos(H)) * 180 / M_PI;
+}
+
+double gurubSesudah(double jdUt, double lintang, double bujur) {
+    double geo[3] = {bujur, lintang, 0}, t = 0;
+    char err[256];
+    swe_rise_trans(jdUt, SE_SUN, nullptr, SEFLG_SWIEPH, SE_CALC_SET, geo, 1013.25, 15, &t, err);
+    return t;
+}
+
+// Local apparent time of a UT instant, as a JD of the local clock.
+double waktuHakiki(double jdUt, double bujur) {
+    double e = 0;
+    char err[256];
+    swe_time_equ(jdUt, &e, err);
+    return jdUt + bujur / 360 + e;
+}
+
+double jdSipil(const Nilai& tanggal) {
+    return static_cast<double>(NomorHari(AmbilTingkat(tanggal, 6), AmbilTingkat(tanggal, 7), AmbilTingkat(tanggal, 8))) +
+           1721423 - 0.5;
+}
+
+}  // namespace
+
+int main() {
+    swe_set_ephe_path(const_cast<char*>("/usr/share/libswe/ephe"));
+    ClsConnection koneksi(CariLokasiData());
+    Workspace ws(koneksi);
+
+    std::printf("1. The books' mean ijtima' (alamah) against the true conjunction, hours (book - true)\n");
+    std::printf("%-5s %-9s %-38s %-38s\n", "kitab", "markaz", "to the one ending m", "to the one opening m");
+    for (const Markaz& mk : kMarkaz) {
+        ws.pilihTempat(mk.tempat);
+        MetodeIjtima* m = ws.metode(CariKitab(mk.kitab)->kodeLembar);
+        Stat akhir, awal;
+        for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
+            Nilai alamah;
+            if (auto* sn = dynamic_cast<SullamNairoin*>(m)) {
+                sn->JumlahSN(tahun, 1);
+                alamah = sn->Jumlah(1);
+            } else {
+                auto* fr = dynamic_cast<FathurRouf*>(m);
+                fr->PokokFR(tahun, 1);
+                alamah = fr->Jumlah(1);
+            }
+            const double jam1 = jamMinggu(AmbilTingkat(alamah, 10), AmbilTingkat(alamah, 11) +
+                                                                       AmbilTingkat(alamah, 12) / 60.0 +
+                                                                       AmbilTingkat(alamah, 13) / 3600.0);
+            for (int bulan = 1; bulan <= 12; ++bulan) {
+                const double buku = jam1 + (bulan - 1) * kBulan * 24;
+                for (auto [stat, b] : {std::pair{&akhir, bulan}, {&awal, bulan - 1}}) {
+                    const double jd = ijtimaAkhirBulan(b == 0 ? tahun - 1 : tahun, b == 0 ? 12 : b);
+                    const HariJam h = hariJam(jd + mk.bujur / 360);
+                    stat->tambah(bedaMinggu(buku, jamMinggu(h.hari, h.jam)));
+                }
+            }
+        }
+        std::printf("%-5s %-9s mean %+6.2f, |.| %5.2f, largest %+7.2f  mean %+6.2f, |.| %5.2f, largest %+7.2f\n",
+                    mk.kitab, mk.tempat, akhir.rata(), akhir.rataMutlak(), akhir.maks, awal.rata(), awal.rataMutlak(),
+                    awal.maks);
+    }
+
+    std::printf("\n1b. Ittifaq's Masehi date of its mean ijtima' (date step, tdThMasehi, the months' Masehi days)\n");
+    {
+        ws.pilihTempat("Surabaya");
+        auto* idb = dynamic_cast<FathurRouf*>(ws.metode(11));
+        Tabel& syahru = koneksi.TRBSyahru;
+        Stat beda;
+        int hariSalah = 0;
+        for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
+            idb->PokokFR(tahun, 1);
+            for (int bulan = 1; bulan <= 12; ++bulan) {
+                if (!syahru.cari("Cari", bulan)) continue;
+                // The month row: its Masehi days from the table, its weekday and hours those of
+                // m - 1 mean lunations.
+                const double hari = (bulan - 1) * kBulan;
+                const int64_t utuh = static_cast<int64_t>(std::floor(hari));
+                const double jam = (hari - utuh) * 24;
+                const Nilai syahr = AlamahTarkh(
+                    -1, MedanAlamah{0, BacaBulat(syahru, "mshBln"), BacaBulat(syahru, "mshTgl"), BacaBulat(syahru, "Pasaran"),
+                                    utuh % 7, static_cast<int64_t>(jam), static_cast<int64_t>((jam - std::floor(jam)) * 60), 0, 0},
+                    1);
+                const auto t = ws.taadil.Taadil(idb->Majmu(1), idb->Mabsut(1), syahr, Nilai("00 00 00 00 00 1"), idb->Dawr,
+                                                idb->SisaTahun, Nilai(idb->data().mabda[0]), Nilai(idb->data().tambah[0]));
+                if (t[0].kosongTeks()) continue;
+                const double bukuLokal = jdSipil(t[0]) - 0.25 + (AmbilTingkat(t[0], 11) + AmbilTingkat(t[0], 12) / 60.0) / 24;
+                const double jd = ijtimaAkhirBulan(bulan == 1 ? tahun - 1 : tahun, bulan == 1 ? 12 : bulan - 1);
+                const double d = (bukuLokal - (jd + (112 + 46 / 60.0) / 360)) * 24;
+                beda.tambah(d);
+                if (std::fabs(d - 12.94) > 24) ++hariSalah;
+            }
+        }
+        std::printf("date and hour of the mean ijtima' - true conjunction opening the month: mean %+.2f h, "
+                    "mean |.| %.2f h, largest %+.2f h; a day or more off the offset: %d of %d\n",
+                    beda.rata(), beda.rataMutlak(), beda.maks, hariSalah, beda.n);
+    }
+
+    std::printf("\n2. The reckoning as the program runs it, every month of %d-%d H at the markaz\n", kTahunAwal,
+                kTahunAkhir);
+    const bool lengkap = koneksi.TRBSyahru.indeksKolom("alHari") >= 0 && koneksi.TRBTaadil.indeksKolom("tdKsJah") >= 0 &&
+                         koneksi.TRBTaadil.indeksKolom("mnJah") >= 0;
+    if (!lengkap)
+        std::printf("(the month and equation tables lack Sullam's columns: these figures do not yet measure the books)\n");
+    std::printf("%-5s %-9s | ijtima' - true conj. (h)  | height - true (deg)     | first of month\n", "kitab",
+                "markaz");
+    std::printf("%-5s %-9s | mean   |mean|   largest | mean   |mean|  largest  | same  earlier  later\n", "", "");
+    for (const Markaz& mk : kMarkaz) {
+        Stat ij, tg;
+        int sama = 0, dulu = 0, lambat = 0;
+        for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
+            auto hasil = ws.mnu12BulanSub(mk.kitab, std::to_string(tahun), mk.tempat, Workspace::Keluaran::Ringkas);
+            for (const auto& r : hasil.ringkas) {
+                const Ringkasan& g = r.ringkasan;
+                if (g.tanggalIjtima.kosongTeks()) continue;
+                const double jdSejati = ijtimaAkhirBulan(tahun, r.bulan);
+                // The book's ijtima': its day from 18:00 of the day before, plus its hours.
+                const auto titik = g.jamIjtima.find('.');
+                const double jam = std::stod(g.jamIjtima.substr(0, titik)) + std::stod(g.jamIjtima.substr(titik + 1, 2)) / 60;
+                const double bukuLokal = jdSipil(g.tanggalIjtima) - 1 + jam / 24;
+                // Hours from sunset run past midnight: 20.30 is the evening before the day.
+                const double bukuJd = jam >= 18 ? bukuLokal : bukuLokal + 1;
+                ij.tambah((bukuJd - waktuHakiki(jdSejati, mk.bujur)) * 24);
+
+                const double ut = bukuJd - mk.bujur / 360;
+                const double gurub = gurubSesudah(ut, mk.lintang, mk.bujur);
+                const double tinggiBuku = (AmbilTanda(g.tinggiHilal) == 0 ? -1 : 1) * NilaiDesimal(3, g.tinggiHilal);
+                tg.tambah(tinggiBuku - tinggiGeosentris(gurub, mk.lintang, mk.bujur));
+
+                // The same rule on the sky: the day that the first sunset after the conjunction ends.
+                const double gurubSejati = gurubSesudah(jdSejati, mk.lintang, mk.bujur);
+                const double hariSejati = std::floor(gurubSejati + mk.bujur / 360 + 0.5);
+                const double awalSejati = hariSejati + (tinggiGeosentris(gurubSejati, mk.lintang, mk.bujur) < 2 ? 2 : 1);
+                const double awalBuku = jdSipil(g.awalBulan) + 0.5;
+                if (awalBuku == awalSejati) ++sama;
+                else if (awalBuku < awalSejati) ++dulu;
+                else ++lambat;
+            }
+        }
+        std::printf("%-5s %-9s | %+6.2f %6.2f %+8.2f | %+6.2f %6.2f %+7.2f  | %4d  %4d  %4d\n", mk.kitab, mk.tempat,
+                    ij.rata(), ij.rataMutlak(), ij.maks, tg.rata(), tg.rataMutlak(), tg.maks, sama, dulu, lambat);
+    }
+
+    std::printf("\n3. Hours per degree of elongation: table 6 at Tadzkirotu's anomaly against the sky\n");
+    {
+        ws.pilihTempat("Semarang");
+        auto* tz = dynamic_cast<FathurRouf*>(ws.metode(23));
+        Stat beda;
+        for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
+            tz->PokokFR(tahun, 1);
+            const Nilai k1 = tz->Jumlah(4);
+            for (int bulan = 1; bulan <= 12; ++bulan) {
+                // The anomaly gains 25° 49' a lunation (thirty years: 9s 23° 57' beyond 385 circles).
+                const double k = std::fmod(NilaiDesimal(3, k1) + (bulan - 1) * (385 * 360 + 293 + 57 / 60.0) / 360, 360);
+                std::array<Nilai, 5> baris;
+                ws.taadil.TaadilBaris(baris, 6, DesimalKeBusur(k, false).value_or(Nilai()), 5, false);
+                if (baris[4].kosongTeks()) continue;
+                const double jd = ijtimaAkhirBulan(bulan == 1 ? tahun - 1 : tahun, bulan == 1 ? 12 : bulan - 1);
+                double m[6], s[6];
+                posisi(jd, SE_MOON, 0, m);
+                posisi(jd, SE_SUN, 0, s);
+                beda.tambah((NilaiDesimal(3, baris[4]) - 24 / (m[3] - s[3])) * 60);
+            }
+        }
+        std::printf("table - true, minutes of time per degree: mean %+.2f, mean |.| %.2f, largest %+.2f (%d months)\n",
+                    beda.rata(), beda.rataMutlak(), beda.maks, beda.n);
+    }
+    return 0;
+}
