@@ -33,13 +33,15 @@ def sexagesimal(degrees, minutes=0, seconds=0, thirds=0):
 
 LUNATIONS_PER_GROUP = 360
 
-# (whole revolutions restored, the printed thirty-year row)
+# (whole revolutions restored, the printed thirty-year row). The moon's arguments make more than
+# a turn a lunation (390 and 385 turns in 360 lunations): a fraction of a lunation, such as the
+# half that reaches the full moon, needs the whole turns, not only the rest modulo 360.
 THIRTY_YEAR_ROWS = {
     # alamah: 10631 days (1518 weeks and 5 days) and 0 h 15 m; days are counted separately.
     "alamah_days": Fraction(10631) + Fraction(15, 24 * 60),
-    "hishshoh": 30 * 360 + sexagesimal(8 * 30 + 1, 24),  # 08 01 24
+    "hishshoh": 390 * 360 + sexagesimal(8 * 30 + 1, 24),  # 08 01 24
     "wasath": 29 * 360 + sexagesimal(1 * 30 + 8, 24),  # 01 08 24
-    "khossyoh": 25 * 360 + sexagesimal(9 * 30 + 23, 57),  # 09 23 57
+    "khossyoh": 385 * 360 + sexagesimal(9 * 30 + 23, 57),  # 09 23 57
     "markaz": 29 * 360 + sexagesimal(1 * 30 + 8, 0),  # 01 08 00
 }
 
