@@ -33,11 +33,11 @@ struct SesiSH : testing::Test {
                                     "1,1,12.734,30.671,29.107,25.817,29.106\n2,0,1,304.533,0,0,0\n3,1,9.5,0,0,0,0\n"
                                     "8,5,5.872,245.364,232.853,206.532,232.844\n");
         folder.tabel("TRBTaadilSH", "Cari,tdlKhosshoh,TdlMarkaz,tdlArdluQ,mnJah,mn,CariLoop5,tdlHisshoh,tdlMuqowwam\n"
-                                    "185,5.329,1.856,0.016,5,الغفر,185,1.785,0.202\n"
-                                    "186,5.425,1.821,0.021,6,الغفر,,,\n"
-                                    "248,9.954,0.154,0.304,4,النعائم,,,\n"
-                                    "334,7.683,1.027,0.158,0,الفرغ المؤخر,,,\n"
-                                    "350,6.477,1.516,0.071,3,بطن الحوت,350,2.149,0.035\n");
+                                    "185,5.047,1.856,0.016,5,الغفر,185,1.785,0.213\n"
+                                    "186,5.143,1.821,0.021,6,الغفر,,,\n"
+                                    "248,9.671,0.154,0.304,4,النعائم,,,\n"
+                                    "334,7.4,1.027,0.158,0,الفرغ المؤخر,,,\n"
+                                    "350,6.194,1.516,0.071,3,بطن الحوت,350,2.149,0.046\n");
         koneksi = std::make_unique<ClsConnection>(folder.lokasi());
         ws = std::make_unique<Workspace>(*koneksi);
         sh = dynamic_cast<SyamsulHilal*>(ws->metode(19));
@@ -122,7 +122,7 @@ TEST_F(SesiSH, MoonsCorrectionAndTheSunsPlace) {
 TEST_F(SesiSH, FiveDegreeKeysTieUpwardAndAMissingRowKeepsTheCell) {
     sh->SHBud(2) = 347.5f;  // halfway between 345 and 350: the key is 350
     sh->MuqowwamSH();
-    EXPECT_FLOAT_EQ(sh->SHTdlMuqowwam, 0.035f);
+    EXPECT_FLOAT_EQ(sh->SHTdlMuqowwam, 0.046f);
     sh->SHBud(2) = 347.4f;  // the key is 345, which the table lacks
     sh->SHTdlMuqowwam = 9;
     sh->MuqowwamSH();
@@ -164,40 +164,40 @@ TEST_F(SesiSH, OneWholeMonthWorkedByHand) {
     EXPECT_EQ(sh->SHSisaTahun, 4);
     periksaBaris(sh->SHMajmu, {0, 15.05, 55.967, 160.55, 179.801, 57.984}, 1e-4);
     periksaBaris(sh->SHJumlah, {2, 8.155, 333.518, 350.523, 185.526, 247.895}, 1e-4);
-    // Keys 186, 248, 334 and, by fives, 185: 5.425 + 0.154 = 5.579; x 0.083 = 0.463; + 0.154.
-    periksaBaris(sh->SHQomar, {5.425, 0.154, 5.579, 0.083, 0.463, 0.154, 0.617}, 1e-4);
-    // 350.523 - 0.617057 = 349.906: key 350 for the equation of days and the mansion.
-    periksaBaris(sh->SHBud, {0.617, 349.906}, 1e-4);
-    EXPECT_FLOAT_EQ(sh->SHManzil, 3.906006f);
+    // Keys 186, 248, 334 and, by fives, 185: 5.143 + 0.154 = 5.297; x 0.083 = 0.440; + 0.154.
+    periksaBaris(sh->SHQomar, {5.143, 0.154, 5.297, 0.083, 0.44, 0.154, 0.594}, 1e-4);
+    // 350.523 - 0.593651 = 349.929: key 350 for the equation of days and the mansion.
+    periksaBaris(sh->SHBud, {0.594, 349.929}, 1e-4);
+    EXPECT_FLOAT_EQ(sh->SHManzil, 3.929413f);
     EXPECT_EQ(sh->SHNamaManzil, "بطن الحوت");
-    // (5.579 - 0.035) x 1.785 = 9.896 hours.
-    periksaBaris(sh->SHSaah, {5.579, 0.035, 5.544, 1.785, 9.896}, 1e-4);
-    // 2 x 24 + 8.155 - 9.896 = 46.259: day 1 at 22.259; Pasuruan is 2° 16' east of the
-    // markaz, 9' 4" of time: 22.410 hours after the sunset that opens Ahad.
-    periksaBaris(sh->SHIjtima, {8.155, 9.896, 22.259, 0.151, 22.41}, 1e-4);
+    // (5.297 - 0.046) x 1.785 = 9.373 hours.
+    periksaBaris(sh->SHSaah, {5.297, 0.046, 5.251, 1.785, 9.373}, 1e-4);
+    // 2 x 24 + 8.155 - 9.373 = 46.782: day 1 at 22.782; Pasuruan is 2° 16' east of the
+    // markaz, 9' 4" of time: 22.933 hours after the sunset that opens Ahad.
+    periksaBaris(sh->SHIjtima, {8.155, 9.373, 22.782, 0.151, 22.933}, 1e-4);
     EXPECT_EQ(sh->SHIjtimaTeks(1), "2");
     EXPECT_EQ(sh->SHIjtimaTeks(3), "1");
     EXPECT_EQ(sh->SHIjtimaTeks(5), "1");
-    // 24 - 22.410 = 1.590 hours; x 0.5 = 0.795 degrees; x 0.067 = 0.053 hours of stay.
-    periksaBaris(sh->SHHilal, {24, 22.41, 1.59, 0.5, 0.795, 0.067, 0.053, 0.158, 0.053, 0.211}, 1e-4);
+    // 24 - 22.933 = 1.067 hours; x 0.5 = 0.533 degrees; x 0.067 = 0.036 hours of stay.
+    periksaBaris(sh->SHHilal, {24, 22.933, 1.067, 0.5, 0.533, 0.067, 0.036, 0.158, 0.036, 0.194}, 1e-4);
 
-    // The conclusion saw the height whole (0.794964 degrees: 47' 41" 52'''), not the 0.795
-    // that the row keeps afterwards (47' 42").
-    EXPECT_EQ(tab.ringkasan.tinggiHilal.teks(), "00 00 47 41 52 1");
-    // Ahad 22.41 hours from sunset is 16.24 on Sunday 30 Sya'ban = 10 March 2024; the height is
-    // below 2 degrees, so the month begins two days later.
+    // The conclusion saw the height whole (0.533461 degrees: 32' 0" 27'''), not the 0.533
+    // that the row keeps afterwards (31' 58" 48''').
+    EXPECT_EQ(tab.ringkasan.tinggiHilal.teks(), "00 00 32 00 27 1");
+    // Ahad 22.933 hours from sunset is 16.55 on Sunday 30 Sya'ban = 10 March 2024; the height
+    // is below 2 degrees, so the month begins two days later.
     const auto& k = tab.kesimpulan;
     ASSERT_EQ(k.size(), 13u);
     EXPECT_EQ(k[0], "Syamsu al-Hilal");
     EXPECT_EQ(k[1], "Sy'ban : Selasa Pon, 12 Mar 2024 M.");
     EXPECT_EQ(k[2], "Ahad Legi, 10 Mar 2024 M.");
-    EXPECT_EQ(k[3].substr(0, 10), "16.24 WIS,");
+    EXPECT_EQ(k[3].substr(0, 10), "16.55 WIS,");
     EXPECT_EQ(k[4], "3°59' Di sebelah selatan titik barat");
     EXPECT_EQ(k[5], " Di selatan");
     EXPECT_EQ(k[6], "Miring ke utara");
-    EXPECT_EQ(k[7], "0°48' / 0.57 m");
-    EXPECT_EQ(k[8], "00.03 Menit");
-    EXPECT_EQ(k[9], "1/20 Ushbu'  / 0.038 cm");
+    EXPECT_EQ(k[7], "0°32' / 0.38 m");
+    EXPECT_EQ(k[8], "00.02 Menit");
+    EXPECT_EQ(k[9], "1/30 Ushbu'  / 0.026 cm");
     EXPECT_EQ(k[11], "Jepara 6° 36' LU | 110° 40' BT");
     EXPECT_EQ(k[12], "Pasuruan 7° 39' LS | 112° 56' BT");
 
@@ -209,11 +209,11 @@ TEST_F(SesiSH, OneWholeMonthWorkedByHand) {
     EXPECT_EQ(l.sel(6, 8), "8.155");
     EXPECT_EQ(l.sel(6, 4), "247.895");
     EXPECT_EQ(l.sel(17, 5), "(+)");
-    EXPECT_EQ(l.sel(18, 4), "22.41");
+    EXPECT_EQ(l.sel(18, 4), "22.933");
     EXPECT_EQ(l.sel(18, 5), "1");
     EXPECT_EQ(l.sel(18, 7), "Pasuruan");
-    EXPECT_EQ(l.sel(12, 0), "0.795");
-    EXPECT_EQ(l.sel(17, 9), "3.906006");
+    EXPECT_EQ(l.sel(12, 0), "0.533");
+    EXPECT_EQ(l.sel(17, 9), "3.929413");
     EXPECT_EQ(l.sel(18, 9), "بطن الحوت");
 
     // The first of the month alone: the day of the ijtima' and 49 hours.
