@@ -4,7 +4,7 @@ set -eu
 
 # Qt 6 for the desktop program, and the fonts its sheets name: Amiri for the Arabic frames,
 # DejaVu Sans for the Latin ones (fontconfig finds them, also on the offscreen platform).
-PAKET="build-essential cmake pkg-config googletest libgtest-dev libbenchmark-dev
+PAKET="build-essential cmake pkg-config googletest libgtest-dev libbenchmark-dev python3
   qt6-base-dev fontconfig fonts-hosny-amiri fonts-dejavu-core"
 
 kurang=""

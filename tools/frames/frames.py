@@ -8,10 +8,12 @@ the first and last column it spans. The value cells themselves are written by th
 the frame places the labels around them as the book lays out its table, reading from right
 to left: row labels in the highest columns, the fields of a value running leftwards.
 
-Run: python3 tools/frames/frames.py
+Run: python3 tools/frames/frames.py            (--verify: fail unless data/ holds what it would write)
 """
 import csv
+import io
 import os
+import sys
 
 # Headings of the fields of an arc value and of an alamah value, in Arabic as the book has them.
 BURUJ, DARAJAH, DAQIQAH, TSANIYAH, TSALITSAH = "برج", "درجة", "دقيقة", "ثانية", "ثالثة"
@@ -228,12 +230,24 @@ NODES = [
 ]
 
 
+PERIKSA = "--verify" in sys.argv[1:]
+USANG = []
+
+
 def tulis(nama, kepala, baris):
+    """Writes the table; with --verify only compares it with the file."""
     keluar = os.path.join(os.path.dirname(__file__), "..", "..", "data", nama)
+    buf = io.StringIO()
+    w = csv.writer(buf, lineterminator="\n")
+    w.writerow(kepala)
+    w.writerows(baris)
+    if PERIKSA:
+        with open(keluar, encoding="utf-8", newline="") as fh:
+            if fh.read() != buf.getvalue():
+                USANG.append(nama)
+        return
     with open(keluar, "w", newline="", encoding="utf-8") as fh:
-        w = csv.writer(fh, lineterminator="\n")
-        w.writerow(kepala)
-        w.writerows(baris)
+        fh.write(buf.getvalue())
 
 
 def main():
@@ -261,3 +275,6 @@ def main():
 
 if __name__ == "__main__":
     main()
+    for nama in USANG:
+        print(f"{nama} is not what the generator writes", file=sys.stderr)
+    sys.exit(1 if USANG else 0)

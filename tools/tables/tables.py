@@ -152,16 +152,21 @@ def merge_other_columns(path, header, rows):
     return header + [old_header[i] for i in others], merged
 
 
-def write_csv(path, header, rows):
-    """UTF-8, comma-separated, quoted only where needed, LF line ends."""
+def write_csv(path, header, rows, verify=False):
+    """UTF-8, comma-separated, quoted only where needed, LF line ends. With verify the file is
+    not written: True when it already holds exactly this."""
     header, rows = merge_other_columns(path, header, rows)
     buffer = io.StringIO()
     writer = csv.writer(buffer, lineterminator="\n", quoting=csv.QUOTE_MINIMAL)
     writer.writerow(header)
     for row in rows:
         writer.writerow(["" if cell is None else cell for cell in row])
+    if verify:
+        with open(path, encoding="utf-8", newline="") as f:
+            return f.read() == buffer.getvalue()
     with open(path, "w", encoding="utf-8", newline="") as f:
         f.write(buffer.getvalue())
+    return True
 
 
 # ---------------------------------------------------------------------------------------------
@@ -359,6 +364,7 @@ def main(argv=None):
     here = os.path.dirname(os.path.abspath(__file__))
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--out", default=os.path.normpath(os.path.join(here, "..", "..", "data")))
+    parser.add_argument("--verify", action="store_true", help="fail unless the files hold what would be written")
     # For the calibration study only (check_sullam.py calibrate): other choices than the ones made.
     parser.add_argument("--day-equation-offset", type=float, help=argparse.SUPPRESS)
     parser.add_argument("--ptolemaic-hourly-motion", action="store_true", help=argparse.SUPPRESS)
@@ -369,10 +375,12 @@ def main(argv=None):
     if args.ptolemaic_hourly_motion:
         HOURS_PER_DEGREE = model.hours_per_degree_ptolemaic
     os.makedirs(args.out, exist_ok=True)
-    write_csv(os.path.join(args.out, "TRBSyahru.csv"), SYAHRU_COLUMNS, syahru_rows())
-    write_csv(os.path.join(args.out, "TRBTaadil.csv"), TAADIL_COLUMNS, taadil_rows())
-    write_csv(os.path.join(args.out, "TafawutWIB.csv"), TAFAWUT_COLUMNS, tafawut_rows())
-    return 0
+    tables = [("TRBSyahru.csv", SYAHRU_COLUMNS, syahru_rows()), ("TRBTaadil.csv", TAADIL_COLUMNS, taadil_rows()),
+              ("TafawutWIB.csv", TAFAWUT_COLUMNS, tafawut_rows())]
+    stale = [name for name, header, rows in tables if not write_csv(os.path.join(args.out, name), header, rows, args.verify)]
+    for name in stale:
+        print(f"{name} is not what the generator writes", file=sys.stderr)
+    return 1 if stale else 0
 
 
 if __name__ == "__main__":

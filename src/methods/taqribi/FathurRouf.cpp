@@ -215,7 +215,7 @@ void FathurRouf::tinggiDanMukts() {
     Nur(2) = TambahNilai(3, 3, 1, Nur(1), Hilal(7));
 }
 
-Nilai FathurRouf::hariIjtima() { return HariIjtimaTaqribi(k_, Ijtima(5)); }
+Nilai FathurRouf::hariIjtima() { return HariIjtimaTaqribi(k_, ijtimaSejakMaghrib()); }
 
 FathurRouf::HariHasil FathurRouf::hariHasil() {
     HariHasil h;
@@ -255,7 +255,7 @@ void FathurRouf::KesimpulanFR() {
     const HariHasil h = hariHasil();
     BahanKesimpulan b;
     b.judul = judulKesimpulan();
-    b.ijtima = Ijtima(5);
+    b.ijtima = ijtimaSejakMaghrib();
     b.hariIjtima = h.ijtima;
     b.awalBulan = h.awal;
     b.tinggi = Hilal(5);

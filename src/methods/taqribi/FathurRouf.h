@@ -131,6 +131,8 @@ protected:
     // The month row from TRBSyahru; its alamah cell. A treatise whose alamah carries a
     // Masehi date fills the date fields too.
     virtual Nilai alamahSyahr(const Tabel& syahru) const;
+    // The ijtima' as the conclusion reads it: weekday and hours from sunset.
+    virtual Nilai ijtimaSejakMaghrib() const { return Ijtima(5); }
     // The civil date of the ijtima' (a date value): the day of the Hijri month that falls on
     // the reckoned weekday.
     virtual Nilai hariIjtima();

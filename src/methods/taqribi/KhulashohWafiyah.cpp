@@ -43,4 +43,8 @@ void KhulashohWafiyah::HilalFR() {
     tinggiDanMukts();
 }
 
+Nilai KhulashohWafiyah::ijtimaSejakMaghrib() const {
+    return TambahNilai(0, 3, 1, Ijtima(5), Nilai("000 00 00 00 00 18 00 00 00 1"));
+}
+
 }  // namespace falak

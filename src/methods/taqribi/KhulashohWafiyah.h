@@ -2,7 +2,8 @@
 // four cells (alamah, Wasath, Khossyoh, Markaz: no Hishshoh, so no latitude of the moon),
 // years split by ten, markaz at Makkah al-Mukarromah (39° 57'). It finds the sunset by the
 // shared sunset reckoning for the place instead of a fixed 24 hours, so its alamah is read on
-// the same clock as that sunset.
+// the same clock as that sunset: its hours run from noon, as the zij's day does, where the
+// other books count from sunset.
 #pragma once
 
 #include "methods/taqribi/FathurRouf.h"
@@ -14,6 +15,8 @@ public:
     explicit KhulashohWafiyah(Konteks k);
 
     void HilalFR() override;
+    // Noon of a day is 18 hours after the sunset that opens it.
+    Nilai ijtimaSejakMaghrib() const override;
 };
 
 }  // namespace falak
