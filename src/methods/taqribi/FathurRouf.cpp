@@ -6,9 +6,9 @@
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
-#include "core/Manzil.h"
 #include "core/Sesi.h"
 #include "methods/tahqiqi/Taadil.h"
+#include "methods/taqribi/LangkahTaqribi.h"
 #include "methods/taqribi/Lembar.h"
 
 namespace falak {
@@ -142,18 +142,7 @@ void FathurRouf::QomarFR() {
     HitungBudTaqwim();
     k_.taadil.TaadilBaris(TdlDq.semua(), 5, BudTaqwim(3), 5, false);
 
-    Manzil(1) = ClsTaadil::Madkhul(BudTaqwim(3));
-    const int a = AmbilTingkat(Manzil(1), 1), b = AmbilTingkat(Manzil(1), 2);
-    Tabel& taadil = k_.koneksi.TRBTaadil;
-    Manzil(2) = Nilai(AmbilManzil(taadil, 1, a, b));
-    Manzil(3) = Nilai(CetakAngka(ValAngka(Manzil(2).teks()) + 1));
-    isi(Manzil(2), DlorbuSittin("0", Manzil(2).teks(), "0", "0", "0", 1, 1));
-    // The mansion after the thirteenth is the first again.
-    const std::string berikut = ValAngka(Manzil(3).teks()) > 13 ? "1" : Manzil(3).teks();
-    isi(Manzil(3), DlorbuSittin("0", berikut, "0", "0", "0", 1, 1));
-    Manzil(4) = DlorbuSittin(0, 0, AmbilTingkat(Manzil(1), 3), AmbilTingkat(Manzil(1), 4), AmbilTingkat(Manzil(1), 5), 1, 1);
-    Manzil(5) = TambahNilai(3, 3, 1, Manzil(2), Manzil(4));
-    Manzil(6) = Nilai(AmbilManzil(taadil, 2, a, b));
+    HitungManzil(Manzil.semua(), BudTaqwim(3), k_.koneksi.TRBTaadil);
 }
 
 void FathurRouf::TaadilQomar() {
@@ -172,21 +161,10 @@ void FathurRouf::HitungBudTaqwim() {
     BudTaqwim(3) = KurangNilai(3, 3, 1, BudTaqwim(1), BudTaqwim(2));
 }
 
-void FathurRouf::hitungSaah() {
-    Saah(1) = Qomar(3);
-    Saah(2) = TdlDq(5);
-    Saah(3) = KurangNilai(3, 3, 1, Saah(1), Saah(2));
-    Saah(4) = TdlHs(5);
-    isi(Saah(5), KaliNilai(3, 3, 1, Saah(3), Saah(4)));
-}
+void FathurRouf::hitungSaah() { HitungSaah(Saah.semua(), Qomar(3), TdlDq(5), TdlHs(5)); }
 
 Nilai FathurRouf::selisihBujur(bool bertanggal) const {
-    const Tempat& t = k_.sesi.tempat;
-    const Nilai p = DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), 3);
-    const Nilai j = DlorbuSittin(0, data_.bujurDerajat, data_.bujurMenit, 0, 0, 1, 3);
-    Nilai d = KurangNilai(3, 3, 3, p, j);
-    isi(d, BagiNilai(3, 3, 1, d, busur(0, 15, 0)));
-    return CUmumToAlamah(d, bertanggal);
+    return SelisihBujur(k_.sesi.tempat, data_.bujurDerajat, data_.bujurMenit, bertanggal);
 }
 
 void FathurRouf::IjtimaFR() {
@@ -198,21 +176,11 @@ void FathurRouf::IjtimaFR() {
     Ijtima(5) = TambahNilai(0, 3, 1, Ijtima(3), Ijtima(4));
 }
 
-void FathurRouf::HilalFR() {
-    Hilal(1) = Nilai("00 24 00 00 00 1");
-    Hilal(2) = CAlamahToUmum(Ijtima(5));
-    Hilal(3) = KurangNilai(3, 2, 1, Hilal(1), Hilal(2));
-    tinggiDanMukts();
-}
+void FathurRouf::HilalFR() { HilalMaghribTetap(Hilal.semua(), Nur.semua(), Ijtima(5), cahayaLintang()); }
 
-void FathurRouf::tinggiDanMukts() {
-    Hilal(4) = busur(0, 0, 30);
-    isi(Hilal(5), KaliNilai(3, 3, 1, Hilal(3), Hilal(4)));
-    Hilal(6) = busur(0, 0, 4);
-    isi(Hilal(7), KaliNilai(3, 3, 1, Hilal(5), Hilal(6)));
+Nilai FathurRouf::cahayaLintang() const {
     // Without a latitude table the light is the stay alone.
-    Nur(1) = data_.unsur.hishshoh != 0 ? TdlAr(5) : busur(0, 0, 0);
-    Nur(2) = TambahNilai(3, 3, 1, Nur(1), Hilal(7));
+    return data_.unsur.hishshoh != 0 ? TdlAr(5) : busur(0, 0, 0);
 }
 
 Nilai FathurRouf::hariIjtima() { return HariIjtimaTaqribi(k_, ijtimaSejakMaghrib()); }

@@ -125,8 +125,8 @@ protected:
     virtual void HitungBudTaqwim();
     // The hours between the luminaries (Saah).
     void hitungSaah();
-    // The height from the hours in Hilal(3), the stay, and the light.
-    void tinggiDanMukts();
+    // The latitude's share of the hilal's light.
+    Nilai cahayaLintang() const;
 
     // The month row from TRBSyahru; its alamah cell. A treatise whose alamah carries a
     // Masehi date fills the date fields too.

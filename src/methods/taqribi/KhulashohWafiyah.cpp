@@ -2,6 +2,7 @@
 
 #include "conclusions/Kesimpulan.h"
 #include "core/FungsHisab.h"
+#include "methods/taqribi/LangkahTaqribi.h"
 
 namespace falak {
 
@@ -40,7 +41,7 @@ void KhulashohWafiyah::HilalFR() {
     const bool sesudahGurub = NilaiDesimal(3, Hilal(2)) > NilaiDesimal(3, Hilal(1));
     const Nilai gurubDipakai = sesudahGurub ? TambahNilai(3, 3, 1, Hilal(1), DlorbuSittin(0, 24, 0, 0, 0, 1, 1)) : Hilal(1);
     Hilal(3) = KurangNilai(3, 2, 1, gurubDipakai, Hilal(2));
-    tinggiDanMukts();
+    TinggiHilal(Hilal.semua(), Nur.semua(), cahayaLintang());
 }
 
 Nilai KhulashohWafiyah::ijtimaSejakMaghrib() const {

@@ -6,10 +6,10 @@
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
-#include "core/Manzil.h"
 #include "core/Sesi.h"
 #include "methods/tahqiqi/Taadil.h"
 #include "methods/taqribi/KesimpulanTaqribi.h"
+#include "methods/taqribi/LangkahTaqribi.h"
 #include "methods/taqribi/Lembar.h"
 
 namespace falak {
@@ -99,50 +99,19 @@ void SullamNairoin::QomarSN() {
 
     k_.taadil.TaadilBaris(TdlDq.semua(), 5, BudTaqwim(5), 5, false);
 
-    Manzil(1) = ClsTaadil::Madkhul(BudTaqwim(5));
-    const int a = AmbilTingkat(Manzil(1), 1), b = AmbilTingkat(Manzil(1), 2);
-    Tabel& taadil = k_.koneksi.TRBTaadil;
-    Manzil(2) = Nilai(AmbilManzil(taadil, 1, a, b));
-    Manzil(3) = Nilai(CetakAngka(ValAngka(Manzil(2).teks()) + 1));
-    isi(Manzil(2), DlorbuSittin("0", Manzil(2).teks(), "0", "0", "0", 1, 1));
-    const std::string berikut = ValAngka(Manzil(3).teks()) > 13 ? "1" : Manzil(3).teks();
-    isi(Manzil(3), DlorbuSittin("0", berikut, "0", "0", "0", 1, 1));
-    Manzil(4) = DlorbuSittin(0, 0, AmbilTingkat(Manzil(1), 3), AmbilTingkat(Manzil(1), 4), AmbilTingkat(Manzil(1), 5), 1, 1);
-    Manzil(5) = TambahNilai(3, 3, 1, Manzil(2), Manzil(4));
-    Manzil(6) = Nilai(AmbilManzil(taadil, 2, a, b));
+    HitungManzil(Manzil.semua(), BudTaqwim(5), k_.koneksi.TRBTaadil);
 }
 
 void SullamNairoin::IjtimaSN() {
-    Saah(1) = Qomar(3);
-    Saah(2) = TdlDq(5);
-    Saah(3) = KurangNilai(3, 3, 1, Saah(1), Saah(2));
-    Saah(4) = TdlHs(5);
-    isi(Saah(5), KaliNilai(3, 3, 1, Saah(3), Saah(4)));
-
+    HitungSaah(Saah.semua(), Qomar(3), TdlDq(5), TdlHs(5));
     Ijtima(1) = Jumlah(1);
     Ijtima(2) = CUmumToAlamah(Saah(5), false);
     Ijtima(3) = KurangNilai(0, 3, 1, Jumlah(1), Ijtima(2));
-
-    const Tempat& t = k_.sesi.tempat;
-    const Nilai p = DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), 3);
-    const Nilai j = DlorbuSittin(0, kBujurMarkazDerajat, kBujurMarkazMenit, 0, 0, 1, 3);
-    Ijtima(4) = KurangNilai(3, 3, 3, p, j);
-    isi(Ijtima(4), BagiNilai(3, 3, 1, Ijtima(4), busur(0, 15, 0)));
-    Ijtima(4) = CUmumToAlamah(Ijtima(4), false);
+    Ijtima(4) = SelisihBujur(k_.sesi.tempat, kBujurMarkazDerajat, kBujurMarkazMenit, false);
     Ijtima(5) = TambahNilai(0, 3, 1, Ijtima(3), Ijtima(4));
 }
 
-void SullamNairoin::HilalSN() {
-    Hilal(1) = Nilai("00 24 00 00 00 1");
-    Hilal(2) = CAlamahToUmum(Ijtima(5));
-    Hilal(3) = KurangNilai(3, 2, 1, Hilal(1), Hilal(2));
-    Hilal(4) = busur(0, 0, 30);
-    isi(Hilal(5), KaliNilai(3, 3, 1, Hilal(3), Hilal(4)));
-    Hilal(6) = busur(0, 0, 4);
-    isi(Hilal(7), KaliNilai(3, 3, 1, Hilal(5), Hilal(6)));
-    Nur(1) = TdlAr(5);
-    Nur(2) = TambahNilai(3, 3, 1, Nur(1), Hilal(7));
-}
+void SullamNairoin::HilalSN() { HilalMaghribTetap(Hilal.semua(), Nur.semua(), Ijtima(5), TdlAr(5)); }
 
 void SullamNairoin::KesimpulanSN() {
     BahanKesimpulan b;
