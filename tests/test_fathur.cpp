@@ -3,7 +3,7 @@
 // values are worked by hand from the books' constants and the rules of the value rows.
 #include <gtest/gtest.h>
 
-#include "FolderUji.h"
+#include "SesiUji.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "methods/taqribi/FaidlulKarim.h"
@@ -17,14 +17,10 @@ using namespace falak;
 
 namespace {
 
-struct BukuFR : testing::Test {
-    uji::FolderUji folder{"falak-fathur"};
-    std::unique_ptr<ClsConnection> koneksi;
-    std::unique_ptr<Workspace> ws;
-
+struct BukuFR : uji::SesiUji {
+    BukuFR() : uji::SesiUji("falak-fathur") {}
     void SetUp() override {
-        folder.tabel("Balad", "BaladIN,BaladAR,DarojatArdlu,DaqiqohArdlu,ArahArdlu,DarojatThul,DaqiqohThul,ArahThul,"
-                              "ZonaTime,Ketinggian\n"
+        folder.tabel("Balad", uji::kKepalaBalad +
                               "Semarang,Semarang,6,56,LS,110,24,BT,7,0\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n"
                               "Surabaya,Surabaya,7,15,LS,112,46,BT,7,0\nMakkah,Makkah,21,25,LU,39,57,BT,3,0\n");
         // Month 1 adds nothing; month 2 one lunation (its Masehi days: 29, pasaran 4).
@@ -34,8 +30,7 @@ struct BukuFR : testing::Test {
                      "1,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0\n"
                      "2,1,12,44,1,0,40,0,29,6,0,25,49,0,29,6,0,0,29,4\n");
         folder.tabel("TRBTaadil", "Cari,tdThMasehi\n1,8\n");
-        koneksi = std::make_unique<ClsConnection>(folder.lokasi());
-        ws = std::make_unique<Workspace>(*koneksi);
+        bukaSesi();
         ws->pilihTempat("Semarang");
     }
     template <class T>

@@ -2,7 +2,7 @@
 // whose tables the test writes itself.
 #include <gtest/gtest.h>
 
-#include "FolderUji.h"
+#include "SesiUji.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "methods/taqribi/SullamNairoin.h"
@@ -12,18 +12,14 @@ using namespace falak;
 
 namespace {
 
-struct SesiUji : testing::Test {
-    uji::FolderUji folder{"falak-sullam"};
-    std::unique_ptr<ClsConnection> koneksi;
-    std::unique_ptr<Workspace> ws;
+struct SesiUji : uji::SesiUji {
     SullamNairoin* sn = nullptr;
 
+    SesiUji() : uji::SesiUji("falak-sullam") {}
     void SetUp() override {
-        folder.tabel("Balad", "BaladIN,BaladAR,DarojatArdlu,DaqiqohArdlu,ArahArdlu,DarojatThul,DaqiqohThul,ArahThul,"
-                              "ZonaTime,Ketinggian\n"
-                              "Jakarta,Jakarta,6,15,LS,106,52,BT,7,8\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n");
-        koneksi = std::make_unique<ClsConnection>(folder.lokasi());
-        ws = std::make_unique<Workspace>(*koneksi);
+        folder.tabel("Balad", uji::kKepalaBalad +
+                                  "Jakarta,Jakarta,6,15,LS,106,52,BT,7,8\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n");
+        bukaSesi();
         sn = dynamic_cast<SullamNairoin*>(ws->metode(2));
         ASSERT_NE(sn, nullptr);
     }

@@ -3,7 +3,7 @@
 // shipped tables, plus a few made up to reach the edge cases).
 #include <gtest/gtest.h>
 
-#include "FolderUji.h"
+#include "SesiUji.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "methods/taqribi/SyamsulHilal.h"
@@ -13,15 +13,12 @@ using namespace falak;
 
 namespace {
 
-struct SesiSH : testing::Test {
-    uji::FolderUji folder{"falak-sh"};
-    std::unique_ptr<ClsConnection> koneksi;
-    std::unique_ptr<Workspace> ws;
+struct SesiSH : uji::SesiUji {
     SyamsulHilal* sh = nullptr;
 
+    SesiSH() : uji::SesiUji("falak-sh") {}
     void SetUp() override {
-        folder.tabel("Balad", "BaladIN,BaladAR,DarojatArdlu,DaqiqohArdlu,ArahArdlu,DarojatThul,DaqiqohThul,ArahThul,"
-                              "ZonaTime,Ketinggian\n"
+        folder.tabel("Balad", uji::kKepalaBalad +
                               "Jepara,Jepara,6,36,LS,110,40,BT,7,2\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n"
                               "Banda Aceh,Banda Aceh,5,33,LU,95,19,BT,7,10\n");
         // Row 0 is there to show that it is never read.
@@ -38,8 +35,7 @@ struct SesiSH : testing::Test {
                                     "248,9.671,0.154,0.304,4,النعائم,,,\n"
                                     "334,7.4,1.027,0.158,0,الفرغ المؤخر,,,\n"
                                     "350,6.194,1.516,0.071,3,بطن الحوت,350,2.149,0.046\n");
-        koneksi = std::make_unique<ClsConnection>(folder.lokasi());
-        ws = std::make_unique<Workspace>(*koneksi);
+        bukaSesi();
         sh = dynamic_cast<SyamsulHilal*>(ws->metode(19));
         ASSERT_NE(sh, nullptr);
     }
