@@ -135,7 +135,7 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
              const Jalankan& batch, std::ostream& out, std::ostream& err) {
     ClsConnection koneksi(lokasi);
     const std::string masalah = LaporanMasalah(koneksi.masalah());
-    if (!masalah.empty()) err << masalah << "\n";
+    err << masalah;  // one line a table, each ended
     if (!CariTempat(koneksi.Daerah, p.tempat)) {
         err << "falak " << perintah << ": daerah \"" << p.tempat
             << "\" tidak ada di daftar tempat (lihat: falak tempat daftar)\n";

@@ -101,7 +101,7 @@ int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, st
 
     ClsConnection koneksi(CariLokasiData());
     const std::string masalah = LaporanMasalah(koneksi.masalah());
-    if (!masalah.empty()) err << masalah << "\n";
+    err << masalah;  // one line a table, each ended
     Workspace ws(koneksi);
     if (!CariTempat(koneksi.Daerah, p.tempat)) {
         err << "falak hisab: daerah \"" << p.tempat << "\" tidak ada di daftar tempat (lihat: falak tempat daftar)\n";
