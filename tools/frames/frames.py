@@ -20,6 +20,27 @@ BURUJ, DARAJAH, DAQIQAH, TSANIYAH, TSALITSAH = "برج", "درجة", "دقيقة
 YAUM, SAAH = "يوم", "ساعة"
 
 
+def kepalaJumlah(label, kelompok):
+    """The top of a taqribi sheet: the groups of the year, month and sum rows (the alamah at
+    columns 37-33, then each element three fields wide, six columns apart), their field
+    headings, the row labels, and the field headings over the three lower blocks."""
+    for i, teks in enumerate(kelompok):
+        label(teks, 1, 33 - 6 * i, 37 - 6 * i)
+    for kol, teks in [(37, YAUM), (35, SAAH), (33, DAQIQAH)]:
+        label(teks, 2, kol)
+    for awal in [31 - 6 * i for i in range(len(kelompok) - 1)]:
+        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH)):
+            label(teks, 2, awal - 2 * i)
+    label("السنين", 2, 39)
+    label("المجموعة", 3, 38)
+    label("المبسوطة", 4, 38)
+    label("الشهر", 5, 38)
+    label("الجملة", 6, 38, 39)
+    for awal in (37, 19, 9):
+        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH, TSANIYAH, TSALITSAH)):
+            label(teks, 7, awal - 2 * i)
+
+
 def sullam():
     """Sullam al-Nairoin: a grid of 40 by 40; values written by the run at the columns below."""
     f = []
@@ -29,24 +50,7 @@ def sullam():
 
     # Top block: the sums of years and months. Alamah at 37-33, then Hishshoh, Khossyoh,
     # Markaz and the auj, three fields each, six columns apart.
-    kelompok = [("العلامة", 33, 37), ("الحصة", 27, 31), ("الخاصة", 21, 25), ("المركز", 15, 19), ("الأوج", 9, 13)]
-    for teks, k1, k2 in kelompok:
-        label(teks, 1, k1, k2)
-    for kol, teks in [(37, YAUM), (35, SAAH), (33, DAQIQAH)]:
-        label(teks, 2, kol)
-    for awal in (31, 25, 19, 13):
-        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH)):
-            label(teks, 2, awal - 2 * i)
-    label("السنين", 2, 39)
-    label("المجموعة", 3, 38)
-    label("المبسوطة", 4, 38)
-    label("الشهر", 5, 38)
-    label("الجملة", 6, 38, 39)
-
-    # Field headings over the three lower blocks.
-    for awal in (37, 19, 9):
-        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH, TSANIYAH, TSALITSAH)):
-            label(teks, 7, awal - 2 * i)
+    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", "الأوج"])
 
     # Right block: the moon's correction, the sun's place, the hours, the ijtima', the hilal.
     kanan = {
@@ -86,22 +90,7 @@ def fathur(sel=5, qomar=7, latitude=True, waktu=False):
     nama = ["العلامة", "الحصة", "الوسط", "الخاصة", "المركز"]
     if sel == 4:
         nama = ["العلامة", "الوسط", "الخاصة", "المركز"]
-    for i, teks in enumerate(nama):
-        label(teks, 1, 33 - 6 * i, 37 - 6 * i)
-    for kol, teks in [(37, YAUM), (35, SAAH), (33, DAQIQAH)]:
-        label(teks, 2, kol)
-    for awal in [31 - 6 * i for i in range(sel - 1)]:
-        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH)):
-            label(teks, 2, awal - 2 * i)
-    label("السنين", 2, 39)
-    label("المجموعة", 3, 38)
-    label("المبسوطة", 4, 38)
-    label("الشهر", 5, 38)
-    label("الجملة", 6, 38, 39)
-
-    for awal in (37, 19, 9):
-        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH, TSANIYAH, TSALITSAH)):
-            label(teks, 7, awal - 2 * i)
+    kepalaJumlah(label, nama)
 
     if qomar == 7:
         bulan = ["تعديل الخاصة", "تعديل المركز", "المجموع", "الضابط", "الحاصل", "تعديل المركز", "تعديل القمر"]
