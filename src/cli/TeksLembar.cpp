@@ -38,11 +38,7 @@ size_t lebarTampil(std::string_view s) {
 
 std::string tampilLembar(const Sheet& lembar) {
     const int nb = lembar.jumlahBaris(), nk = lembar.jumlahKolom();
-    auto gabunganDi = [&](int b, int k) -> const Gabungan* {
-        for (const Gabungan& g : lembar.gabungan())
-            if (g.baris == b && g.kolom1 <= k && k <= g.kolom2) return &g;
-        return nullptr;
-    };
+    auto gabunganDi = [&](int b, int k) { return lembar.gabunganDi(b, k); };
     auto judul = [&](const Gabungan& g) { return g.kolom1 == 0 && g.kolom2 == nk - 1; };
 
     // Widths from the single cells; a merged cell widens the first column of its span.

@@ -34,7 +34,8 @@ public:
     // float prints (at most 7 significant digits, shortest form).
     void FlexDataSH(float nilai, int baris, int kolom);
 
-    // A text in one cell.
+    // A text in one cell: a number when it is a whole number, else a label (in Arabic script
+    // when it holds Arabic letters).
     void FlexTeks(std::string_view teks, int baris, int kolom);
 
 private:

@@ -15,6 +15,49 @@
 
 namespace falak {
 
+// The three small integers that the value arithmetic takes, by the names the reckoner gives
+// them. They stay plain integers (a table or a calculator line may carry any of them), so
+// these names convert to int.
+//
+// Jenis: the shape of a value.
+enum JenisNilai : int {
+    JenisAlamah = 0,        // alamah, the time of the week only
+    JenisAlamahHijri = 1,   // alamah counting months of 30 days
+    JenisAlamahMasehi = 2,  // alamah on the civil calendar
+    JenisBusur = 3,         // arc value
+};
+// Tanda: how the sign flags take part in an operation.
+enum CaraTanda : int {
+    TandaAbai = 1,       // the flags do not decide between adding and subtracting
+    TandaPlus = 2,       // signed, the result forced plus
+    TandaIkut = 3,       // signed arithmetic
+    TandaIkutUrut = 4,   // signed, the order of a subtraction kept as written
+};
+// Modus: the circle of an arc value.
+enum ModusBusur : int {
+    ModusBuruj = 1,      // twelve signs of 30 degrees
+    ModusLingkaran = 2,  // degrees on a circle of 360
+    ModusDarojah = 3,    // open degrees, folded but never wrapped
+};
+// The fields of a value by their index for AmbilTingkat: 1 to 5 of an arc value, 6 to 14 of
+// an alamah or date value.
+enum MedanNilai : int {
+    MedanBuruj = 1,
+    MedanDarojah = 2,
+    MedanDaqiqoh = 3,
+    MedanTsaniyah = 4,
+    MedanTsalitsah = 5,
+    MedanTahun = 6,
+    MedanBulan = 7,
+    MedanTanggal = 8,
+    MedanPasaran = 9,
+    MedanHari = 10,
+    MedanJam = 11,
+    MedanMenit = 12,
+    MedanDetik = 13,
+    MedanTsalitsahWaktu = 14,
+};
+
 // Length of a civil month in days (Gregorian leap rule for every year). A month above 12 has
 // 12 taken off once, one below 0 has 12 added once; month 0 counts 31 days; a month still
 // outside 0 to 12 has 0 days.

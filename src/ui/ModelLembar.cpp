@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFontMetrics>
 #include <QHeaderView>
+#include <QPainter>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -13,13 +14,6 @@
 namespace falak::ui {
 
 namespace {
-
-bool angka(const std::string& teks) {
-    if (teks.empty()) return false;
-    const size_t awal = teks[0] == '-' ? 1 : 0;
-    return awal < teks.size() && std::all_of(teks.begin() + static_cast<long>(awal), teks.end(),
-                                             [](char c) { return c >= '0' && c <= '9'; });
-}
 
 // Amiri draws its letters small for their line height; a size up makes them read like the
 // Latin digits beside them.
@@ -40,18 +34,43 @@ int ModelLembar::columnCount(const QModelIndex& induk) const { return induk.isVa
 
 QVariant ModelLembar::data(const QModelIndex& indeks, int peran) const {
     if (!indeks.isValid()) return {};
-    const std::string& teks = lembar_.sel(indeks.row(), indeks.column());
+    const Sel& sel = lembar_.selLengkap(indeks.row(), indeks.column());
     switch (peran) {
         case Qt::DisplayRole:
-            return teks.empty() ? QVariant() : QVariant(QString::fromStdString(teks));
-        case Qt::TextAlignmentRole:
+            return sel.teks.empty() ? QVariant() : QVariant(QString::fromStdString(sel.teks));
+        case Qt::TextAlignmentRole: {
             // Absolute, so that a cell laid out from right to left still keeps to the right.
-            if (lembar_.dibacaDariKanan || angka(teks))
-                return QVariant::fromValue(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
-            return QVariant::fromValue(Qt::AlignLeft | Qt::AlignAbsolute | Qt::AlignVCenter);
+            Qt::Alignment arah = Qt::AlignLeft;
+            if (sel.rata == Rata::Tengah) arah = Qt::AlignHCenter;
+            else if (sel.rata == Rata::Kanan ||
+                     (sel.rata == Rata::Bawaan && (lembar_.dibacaDariKanan || sel.jenis == JenisSel::Angka)))
+                arah = Qt::AlignRight;
+            return QVariant::fromValue(arah | Qt::AlignAbsolute | Qt::AlignVCenter);
+        }
+        case Qt::ToolTipRole:
+            for (const Tip& t : lembar_.tips())
+                if (t.baris == indeks.row() && t.kolom == indeks.column())
+                    return QString::fromStdString(t.judul + "\n" + t.pesan);
+            return {};
+        case PeranGaris:
+            return sel.garis;
         default:
             return {};
     }
+}
+
+void DelegasiLembar::paint(QPainter* pelukis, const QStyleOptionViewItem& pilihan, const QModelIndex& indeks) const {
+    QStyledItemDelegate::paint(pelukis, pilihan, indeks);
+    const int garis = indeks.data(ModelLembar::PeranGaris).toInt();
+    if (!garis) return;
+    pelukis->save();
+    pelukis->setPen(QPen(pilihan.palette.color(QPalette::WindowText), 1));
+    const QRect r = pilihan.rect.adjusted(0, 0, -1, -1);
+    if (garis & SisiAtas) pelukis->drawLine(r.topLeft(), r.topRight());
+    if (garis & SisiBawah) pelukis->drawLine(r.bottomLeft(), r.bottomRight());
+    if (garis & SisiKiri) pelukis->drawLine(r.topLeft(), r.bottomLeft());
+    if (garis & SisiKanan) pelukis->drawLine(r.topRight(), r.bottomRight());
+    pelukis->restore();
 }
 
 void DelegasiLembar::initStyleOption(QStyleOptionViewItem* pilihan, const QModelIndex& indeks) const {
@@ -73,7 +92,7 @@ GridLembar::GridLembar(const Sheet& lembar, QWidget* induk) : QTableView(induk),
     setWordWrap(false);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    for (const Gabungan& g : lembar.gabungan()) setSpan(g.baris, g.kolom1, 1, g.kolom2 - g.kolom1 + 1);
+    for (const Gabungan& g : lembar.gabungan()) setSpan(g.baris, g.kolom1, g.tinggi, g.kolom2 - g.kolom1 + 1);
     aturUkuran();
 }
 
@@ -86,7 +105,8 @@ void GridLembar::aturUkuran() {
     std::vector<bool> digabung(static_cast<size_t>(l.jumlahBaris()) * static_cast<size_t>(l.jumlahKolom()), false);
     auto ke = [&](int b, int k) { return static_cast<size_t>(b) * static_cast<size_t>(l.jumlahKolom()) + static_cast<size_t>(k); };
     for (const Gabungan& g : l.gabungan())
-        for (int k = g.kolom1; k <= g.kolom2; ++k) digabung[ke(g.baris, k)] = true;
+        for (int b = g.baris; b < g.baris + g.tinggi; ++b)
+            for (int k = g.kolom1; k <= g.kolom2; ++k) digabung[ke(b, k)] = true;
     auto perlu = [&](const std::string& teks) { return fm.horizontalAdvance(QString::fromStdString(teks)) + 2 * celah; };
 
     for (int b = 0; b < l.jumlahBaris(); ++b)

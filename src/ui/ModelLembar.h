@@ -22,6 +22,9 @@ public:
     // The sheet must outlive the model and not change while it is shown.
     explicit ModelLembar(const Sheet& lembar, QObject* induk = nullptr);
 
+    // The cell's lines (Sisi flags), for the delegate that draws them.
+    static constexpr int PeranGaris = Qt::UserRole + 1;
+
     int rowCount(const QModelIndex& induk = {}) const override;
     int columnCount(const QModelIndex& induk = {}) const override;
     QVariant data(const QModelIndex& indeks, int peran = Qt::DisplayRole) const override;
@@ -38,6 +41,8 @@ class DelegasiLembar : public QStyledItemDelegate {
     Q_OBJECT
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* pelukis, const QStyleOptionViewItem& pilihan, const QModelIndex& indeks) const override;
 
 protected:
     void initStyleOption(QStyleOptionViewItem* pilihan, const QModelIndex& indeks) const override;
