@@ -44,19 +44,17 @@ void BM_FathurTanpaLembar(benchmark::State& state) {
     Workspace& ws = sesi().ws;
     ws.pilihTempat("Semarang");
     ws.sesi.tanggalPilihan = Nilai("1445 8 ");
-    auto& fr = *dynamic_cast<FathurRouf*>(ws.metode(6));
+    auto& fr = *dynamic_cast<FathurRouf*>(ws.modul("FR"));
     for (auto _ : state) benchmark::DoNotOptimize(fr.AwalBulanFR(1445, 8));
 }
 BENCHMARK(BM_FathurTanpaLembar)->Unit(benchmark::kMicrosecond);
 
 void BM_FathurDenganLembar(benchmark::State& state) {
     Workspace& ws = sesi().ws;
-    LembarKerja tab;
-    ws.grid.pilih(&tab.lembar);
-    auto& fr = *dynamic_cast<FathurRouf*>(ws.metode(6));
+    auto& fr = *dynamic_cast<FathurRouf*>(ws.modul("FR"));
     for (auto _ : state) {
-        fr.HitungIjtimaFR(1445, 8);
-        benchmark::DoNotOptimize(tab.lembar.sel(27, 39));
+        const HasilHitung h = fr.HitungIjtimaFR(1445, 8);
+        benchmark::DoNotOptimize(h.lembar[0].isi.sel(27, 39));
     }
 }
 BENCHMARK(BM_FathurDenganLembar)->Unit(benchmark::kMicrosecond);

@@ -13,7 +13,7 @@ namespace {
 struct Sesi {
     ClsConnection koneksi{CariLokasiData()};
     Workspace ws{koneksi};
-    SullamNairoin& sn = *dynamic_cast<SullamNairoin*>(ws.metode(2));
+    SullamNairoin& sn = *dynamic_cast<SullamNairoin*>(ws.modul("SN"));
     Sesi() {
         ws.pilihTempat("Pasuruan");
         ws.sesi.tanggalPilihan = Nilai("1445 8 ");
@@ -40,11 +40,9 @@ BENCHMARK(BM_SullamTanpaLembar);
 
 void BM_SullamDenganLembar(benchmark::State& state) {
     Sesi& s = sesi();
-    LembarKerja tab;
-    s.ws.grid.pilih(&tab.lembar);
     for (auto _ : state) {
-        s.sn.HitungIjtimaSN(1445, 8);
-        benchmark::DoNotOptimize(tab.lembar.sel(29, 39));
+        const HasilHitung h = s.sn.HitungIjtimaSN(1445, 8);
+        benchmark::DoNotOptimize(h.lembar[0].isi.sel(29, 39));
     }
 }
 BENCHMARK(BM_SullamDenganLembar);

@@ -46,7 +46,7 @@ TEST_F(Batch, AllTreatisesForAMonthWithoutSheets) {
     EXPECT_TRUE(ws.lembar.empty());
     ASSERT_EQ(h.ringkas.size(), kUrutan.size());
     for (size_t i = 0; i < kUrutan.size(); ++i) {
-        EXPECT_EQ(h.ringkas[i].kitab->kode, kUrutan[i]);
+        EXPECT_EQ(h.ringkas[i].modul->kode, kUrutan[i]);
         EXPECT_EQ(h.ringkas[i].bulan, 8);
         EXPECT_EQ(h.ringkas[i].kesimpulan.size(), 13u);
     }
@@ -69,7 +69,7 @@ TEST_F(Batch, TwelveMonthsAndTheStopBetweenRuns) {
     // Months first, the treatises within each month.
     h = ws.duaBelasBulanSemuaKitab("1445", "Pasuruan", Workspace::Keluaran::Ringkas);
     ASSERT_EQ(h.ringkas.size(), 12 * kUrutan.size());
-    EXPECT_EQ(h.ringkas[kUrutan.size()].kitab->kode, "SN");
+    EXPECT_EQ(h.ringkas[kUrutan.size()].modul->kode, "SN");
     EXPECT_EQ(h.ringkas[kUrutan.size()].bulan, 2);
 
     // A stop raised during the third run ends the batch before the fourth.

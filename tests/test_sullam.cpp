@@ -20,7 +20,7 @@ struct SesiUji : uji::SesiUji {
         folder.tabel("Balad", uji::kKepalaBalad +
                                   "Jakarta,Jakarta,6,15,LS,106,52,BT,7,8\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n");
         bukaSesi();
-        sn = dynamic_cast<SullamNairoin*>(ws->metode(2));
+        sn = dynamic_cast<SullamNairoin*>(ws->modul("SN"));
         ASSERT_NE(sn, nullptr);
     }
 };
@@ -102,7 +102,7 @@ TEST_F(SesiUji, ARunMakesItsSheetWithTheFrameAndTheCounts) {
     ASSERT_FALSE(h.pesan);
     const LembarKerja& tab = *h.lembar;
     EXPECT_EQ(tab.kunci, "IjSN_1");
-    EXPECT_EQ(tab.kode, 2);
+    EXPECT_EQ(tab.modul->kodeLembar, 2);
     EXPECT_EQ(tab.judul, "Hisab Awal Bulan 1445 H. 8");
     EXPECT_EQ(ws->sesi.tempat.nama, "Pasuruan");  // an unknown place falls back
     EXPECT_EQ(tab.lembar.jumlahBaris(), 40);

@@ -36,7 +36,7 @@ struct SesiSH : uji::SesiUji {
                                     "334,7.4,1.027,0.158,0,الفرغ المؤخر,,,\n"
                                     "350,6.194,1.516,0.071,3,بطن الحوت,350,2.149,0.046\n");
         bukaSesi();
-        sh = dynamic_cast<SyamsulHilal*>(ws->metode(19));
+        sh = dynamic_cast<SyamsulHilal*>(ws->modul("SH"));
         ASSERT_NE(sh, nullptr);
     }
 
@@ -153,7 +153,7 @@ TEST_F(SesiSH, OneWholeMonthWorkedByHand) {
     ASSERT_FALSE(hasil.pesan);
     const LembarKerja& tab = *hasil.lembar;
     EXPECT_EQ(tab.kunci, "IjSH_1");
-    EXPECT_EQ(tab.kode, 19);
+    EXPECT_EQ(tab.modul->kodeLembar, 19);
 
     // Y = 1444: 48 groups and 4 years; weekday 0 + 3 + 5 and a day from 32.155 hours = 9 = 2.
     EXPECT_EQ(sh->SHDawr, 48);

@@ -114,7 +114,7 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
     for (size_t i = 0; i < runs.size(); ++i) {
         const auto& r = runs[i];
         const Ringkasan& g = r.ringkasan;
-        out << (i ? ",\n" : "\n") << "    {\"kitab\": " << jsonTeks(r.kitab->kode) << ", \"nama\": " << jsonTeks(r.kitab->nama)
+        out << (i ? ",\n" : "\n") << "    {\"kitab\": " << jsonTeks(std::string(r.modul->kode)) << ", \"nama\": " << jsonTeks(std::string(r.modul->nama))
             << ", \"tahun\": " << r.tahun << ", \"bulan\": " << r.bulan << ",\n     \"ijtima\": {\"tanggal\": "
             << (g.tanggalIjtima.kosongTeks() ? "null" : jsonTeks(tanggalIso(g.tanggalIjtima)))
             << ", \"hari\": " << jsonTeks(tanggalKata(g.tanggalIjtima)) << ", \"jam\": " << jsonTeks(g.jamIjtima)
@@ -157,7 +157,7 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
     tabel.push_back(kepala);
     for (const auto& r : h.ringkas) {
         const Ringkasan& g = r.ringkasan;
-        Baris b = {r.kitab->kode, tanggalKata(g.tanggalIjtima), g.jamIjtima, tinggiKata(g.tinggiHilal),
+        Baris b = {std::string(r.modul->kode), tanggalKata(g.tanggalIjtima), g.jamIjtima, tinggiKata(g.tinggiHilal),
                    tanggalKata(g.awalBulan)};
         if (kolomBulan) b.insert(b.begin(), std::string(kBarisBulan[static_cast<size_t>(r.bulan - 1)]).substr(5));
         tabel.push_back(std::move(b));
@@ -192,9 +192,9 @@ int perintahSetahun(const std::vector<std::string>& argumen, const LokasiData& l
     p.kitab = "SN";
     if (!bacaPilihan("setahun", argumen, {"--kitab", "--tahun", "--markaz", "--tempat"}, p, err)) return 2;
     const bool semua = p.kitab == "semua";
-    if (!semua && !CariKitab(p.kitab)) {
+    if (!semua && !CariModul(p.kitab)) {
         std::string daftar;
-        for (const Kitab& k : DaftarKitab()) daftar += (daftar.empty() ? "" : ", ") + k.kode;
+        for (const EntriModul* k : Workspace::kitabTerdaftar()) daftar += (daftar.empty() ? "" : ", ") + std::string(k->kode);
         err << "falak setahun: kitab \"" << p.kitab << "\" tidak dikenal. Pilihan: " << daftar << ", semua\n";
         return 2;
     }

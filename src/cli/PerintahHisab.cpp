@@ -24,12 +24,12 @@ struct Pilihan {
 
 std::string daftarKode() {
     std::string s;
-    for (const Kitab& k : DaftarKitab()) s += (s.empty() ? "" : ", ") + k.kode;
+    for (const EntriModul* k : Workspace::kitabTerdaftar()) s += (s.empty() ? "" : ", ") + std::string(k->kode);
     return s;
 }
 
 void tulisJson(std::ostream& out, const LembarKerja& tab, const Sesi& sesi, const Tempat& t) {
-    out << "{\n  \"kitab\": " << jsonTeks(tab.kitab) << ",\n  \"kunci\": " << jsonTeks(tab.kunci)
+    out << "{\n  \"kitab\": " << jsonTeks(std::string(tab.modul->kode)) << ",\n  \"kunci\": " << jsonTeks(tab.kunci)
         << ",\n  \"judul\": " << jsonTeks(tab.judul) << ",\n  \"tahun\": " << AmbilTingkat(sesi.tanggalPilihan, 6)
         << ",\n  \"bulan\": " << sesi.barisBulan + 1 << ",\n  \"tempat\": {\"nama\": " << jsonTeks(t.nama)
         << ", \"lintang\": [" << t.lintangDerajat << ", " << t.lintangMenit << ", " << jsonTeks(t.tandaLintang)
@@ -85,7 +85,7 @@ int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, st
         else if (a == "--bulan") p.bulan = *v;
         else p.tempat = *v;
     }
-    if (!CariKitab(p.kitab)) {
+    if (!CariModul(p.kitab)) {
         err << "falak hisab: kitab \"" << p.kitab << "\" tidak dikenal. Pilihan: " << daftarKode() << "\n";
         return 2;
     }

@@ -1,5 +1,5 @@
-// ClsFlexGrid: the writers with which a treatise paints its worked table on the sheet of the
-// current run: the frame of named cells, then the numbers of its value rows field by field.
+// ClsFlexGrid: the writers with which a module paints its worked table on a sheet of its run:
+// the frame of named cells, then the numbers of its value rows field by field.
 #pragma once
 
 #include <initializer_list>
@@ -15,7 +15,8 @@ public:
     // The field index that means "no further field".
     static constexpr int kTanpaMedan = 15;
 
-    // The sheet that the writers paint; none until a run sets it.
+    // The writers over a sheet; with none they write nothing.
+    explicit ClsFlexGrid(Sheet* lembar = nullptr) : lembar_(lembar) {}
     void pilih(Sheet* lembar) { lembar_ = lembar; }
     Sheet* lembar() const { return lembar_; }
 

@@ -8,7 +8,7 @@ ClsConnection::ClsConnection(LokasiData lokasi) : lokasi_(std::move(lokasi)) {
 
 std::vector<Tabel*> ClsConnection::semua() {
     return {&Daerah,      &ClearTxtMargen,  &Lines,      &ListTxt,     &MergenExcel,    &Names,
-            &Nodes,       &Refraksi,        &TafawutWIB, &TQQDaqoiqAhTaf, &TQQImkanGerhana, &TQQRumuz,
+            &Refraksi,        &TafawutWIB, &TQQDaqoiqAhTaf, &TQQImkanGerhana, &TQQRumuz,
             &TQQSaah,     &TQQSyahru,       &TQQTaadil,  &TQQthMab,    &TQQYaumTam,     &TRBSyahru,
             &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2};
 }

@@ -45,7 +45,7 @@ public:
 
     // The tables, named as the treatises name them.
     Tabel Daerah{"Daerah"}, ClearTxtMargen{"ClearTxtMargen"}, Lines{"Lines"}, ListTxt{"ListTxt"},
-        MergenExcel{"MergenExcel"}, Names{"Names"}, Nodes{"Nodes"}, Refraksi{"Refraksi"},
+        MergenExcel{"MergenExcel"}, Names{"Names"}, Refraksi{"Refraksi"},
         TafawutWIB{"TafawutWIB"}, TQQDaqoiqAhTaf{"TQQDaqoiqAhTaf"}, TQQImkanGerhana{"TQQImkanGerhana"},
         TQQRumuz{"TQQRumuz"}, TQQSaah{"TQQSaah"}, TQQSyahru{"TQQSyahru"}, TQQTaadil{"TQQTaadil"},
         TQQthMab{"TQQthMab"}, TQQYaumTam{"TQQYaumTam"}, TRBSyahru{"TRBSyahru"}, TRBSyahruSH{"TRBSyahruSH"},

@@ -5,7 +5,6 @@
 
 #include <array>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "core/Nilai.h"
@@ -18,16 +17,11 @@ class ClsConnection;
 // The rows of the month list, as the menus and the month box show them.
 extern const std::array<const char*, 12> kBarisBulan;
 
-// Sheet code of a sheet key: the part up to and including its first "_" ("IjSN_3" is 2,
-// "TdlKfSN_1" is 4). 0 for a key without a known prefix.
-int KodeLembar(std::string_view kunci);
-
 struct Sesi {
     ClsConnection* koneksi = nullptr;  // the tables, opened once at start
     Tempat tempat = Tempat::cadangan();
     Nilai tanggalPilihan;              // field 6 the Hijri year, field 7 the month
-    int kodeLembar = 0;                // the sheet being worked
-    std::string kunciTab;              // key of the selected tab
+    int kodeLembar = 0;                // the sheet code of the module being run
     std::vector<std::string> label;    // the label list, in row order
     int barisBulan = 0;                // selected row of the month list, 0 to 11
     std::string tahunHijri;            // text of the Hijri year box
@@ -35,8 +29,6 @@ struct Sesi {
     Nilai tanggalDiucap;               // the last date spoken with its month name
     std::string namaKitab;             // the treatise of the sheet being worked
 
-    // True when the code is the current sheet's or, with dariTab, that of the selected tab.
-    bool CekSheet(int kode, bool dariTab) const;
     // A label by position; empty past the end of the list.
     const std::string& labelKe(size_t i) const;
 };

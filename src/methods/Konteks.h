@@ -1,6 +1,5 @@
-// What a treatise's module reads and writes during a run, handed to it by the session that
-// owns it: the run state, the tables, the table engine, the conclusion writer, the grid of
-// the current sheet and the progress of the run.
+// What a module reads and writes during a run, handed to it by the session that owns it: the
+// run state, the tables, the table engine, the conclusion writer and the progress of the run.
 #pragma once
 
 #include <atomic>
@@ -12,7 +11,6 @@ struct Sesi;
 class ClsConnection;
 class ClsTaadil;
 class ClsKesimpulan;
-class ClsFlexGrid;
 
 // The progress bar of a run and the stop request of its button.
 class Kemajuan {
@@ -67,7 +65,6 @@ struct Konteks {
     ClsConnection& koneksi;
     ClsTaadil& taadil;
     ClsKesimpulan& kesimpulan;
-    ClsFlexGrid& grid;
     Kemajuan& kemajuan;
 };
 

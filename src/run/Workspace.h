@@ -10,40 +10,27 @@
 #include <vector>
 
 #include "conclusions/Kesimpulan.h"
-#include "core/FlexGrid.h"
 #include "core/Sesi.h"
 #include "core/Sheet.h"
 #include "methods/Konteks.h"
-#include "methods/MetodeIjtima.h"
+#include "methods/Modul.h"
 #include "methods/tahqiqi/Taadil.h"
+#include "run/Registri.h"
 
 namespace falak {
 
 class ClsConnection;
 
-// One work sheet: a tab of the main form with its grid and its conclusion.
+// One work sheet: a tab of the main form with its grid and the conclusion of its run.
 struct LembarKerja {
-    std::string kunci;                    // "IjSN_1": the sheet key, whose prefix gives its code
+    std::string kunci;                    // "IjSN_1": the sheet key, whose prefix names its module
     std::string judul;                    // the tab's caption
-    int kode = 0;
-    std::string kitab;                    // the treatise's code, "SN"
+    const EntriModul* modul = nullptr;
     Sheet lembar;
     std::vector<std::string> kesimpulan;  // the conclusion lines, the heading first
     std::vector<BarisTercatat> baris;     // every row of the run
     Ringkasan ringkasan;                  // its gist, for the lines of a batch
 };
-
-// A treatise in the dispatch table: its sheet code and what the tree and menus call it.
-struct Kitab {
-    int kodeLembar;
-    std::string kode;     // "SN"
-    std::string awalan;   // "IjSN_"
-    std::string nama;     // "Sullam al-Nairoin"
-};
-
-// The conjunction treatises of the dispatch table, in the order of the tree.
-const std::vector<Kitab>& DaftarKitab();
-const Kitab* CariKitab(std::string_view kode);
 
 class Workspace {
 public:
@@ -58,9 +45,9 @@ public:
         std::string teks;
     };
 
-    // mnuProsesIjSub: checks the year text, makes a new sheet (always, from the command line
-    // and the tree) and runs Proses in it. The sheet is the result; a message when the year
-    // is not filled in or the treatise is not available yet.
+    // mnuProsesIjSub: checks the year text, runs Proses and adds the sheets of the run (always
+    // new ones, from the command line and the tree). The first sheet is the result; a message
+    // when the year is not filled in or the treatise is not available yet.
     struct HasilProses {
         LembarKerja* lembar = nullptr;
         std::optional<Pesan> pesan;
@@ -77,7 +64,7 @@ public:
     // keeping what was already made.
     enum class Keluaran { Lembar, Ringkas };
     struct HasilRun {
-        const Kitab* kitab = nullptr;
+        const EntriModul* modul = nullptr;
         int32_t tahun = 0;
         int bulan = 0;
         std::vector<std::string> kesimpulan;
@@ -96,11 +83,18 @@ public:
     HasilBatch duaBelasBulanSemuaKitab(const std::string& tahunTeks, const std::string& namaTempat,
                                        Keluaran keluaran = Keluaran::Lembar);
 
-    // The treatises whose modules exist, in the order of the tree.
-    std::vector<const Kitab*> kitabTersedia();
+    // Every month module of the registry, available or not, in the order of the tree.
+    static std::vector<const EntriModul*> kitabTerdaftar();
+    // The month modules that exist, in the order of the tree.
+    const std::vector<const EntriModul*>& kitabTersedia() const { return tersedia_; }
 
-    // The treatise's module by its sheet code, or none when it is not available yet.
-    MetodeIjtima* metode(int kodeLembar);
+    // The module of a registry entry, or none when it is not available yet.
+    Modul* modul(const EntriModul& entri);
+    // The month module of a book's code, or none.
+    Modul* modul(std::string_view kode) {
+        const EntriModul* e = CariModul(kode);
+        return e ? modul(*e) : nullptr;
+    }
 
     // Looks the place up in the register and fills the place record; the fixed record when
     // it is not there. False when it fell back.
@@ -108,7 +102,6 @@ public:
 
     ClsConnection& koneksi;
     Sesi sesi;
-    ClsFlexGrid grid;
     ClsKesimpulan kesimpulan{sesi};
     ClsTaadil taadil;
     Kemajuan kemajuan;
@@ -117,16 +110,16 @@ public:
 private:
     // The year text as the year check reads it; a message when it is not filled in.
     std::optional<Pesan> periksaTahun(const std::string& tahunTeks) const;
-    // A new sheet for the treatise, and Proses in it.
-    LembarKerja& jalankan(const Kitab& kitab, MetodeIjtima& m, int32_t tahun, int bulan);
-    // Proses: one run of the treatise for the current sheet.
-    void Proses(MetodeIjtima& m, int32_t tahun, int bulan, LembarKerja& tab);
+    // Proses: one run of the module with its sheets, which become new work sheets; the first
+    // of them is returned.
+    LembarKerja& Proses(const EntriModul& entri, Modul& m, int32_t tahun, int bulan);
     // The run state that Proses sets before a run: the chosen date, the month row, the sheet.
-    void siapkan(const MetodeIjtima& m, int32_t tahun, int bulan, int kode, const std::string& kunci);
-    HasilBatch batch(const std::vector<std::pair<const Kitab*, int>>& runs, const std::string& tahunTeks,
+    void siapkan(const EntriModul& entri, int32_t tahun, int bulan);
+    HasilBatch batch(const std::vector<std::pair<const EntriModul*, int>>& runs, const std::string& tahunTeks,
                      const std::string& namaTempat, Keluaran keluaran);
 
-    std::vector<std::unique_ptr<MetodeIjtima>> metode_;
+    std::vector<std::unique_ptr<Modul>> modul_;  // by the index of the registry entry
+    std::vector<const EntriModul*> tersedia_;
     int nomorLembar_ = 0;
 };
 

@@ -39,6 +39,7 @@ namespace falak::ui {
 namespace {
 
 QString q(const std::string& s) { return QString::fromStdString(s); }
+QString q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
 constexpr int kPeranKitab = Qt::UserRole;  // the treatise's code on an item of the tree
 
@@ -212,10 +213,6 @@ void FrmHisab::buatTampilan() {
     connect(bulan_, &QListWidget::currentRowChanged, this, &FrmHisab::konversiTahun);
     connect(stop_, &QPushButton::clicked, this, &FrmHisab::tanyaBerhenti);
     connect(tab_, &QTabWidget::tabCloseRequested, this, &FrmHisab::tutupTab);
-    connect(tab_, &QTabWidget::currentChanged, this, [this](int i) {
-        if (pekerja_->sibuk() || i < 0) return;
-        if (auto* t = qobject_cast<TabLembar*>(tab_->widget(i))) ws_->sesi.kunciTab = t->lembar().kunci;
-    });
 }
 
 void FrmHisab::buatMenu() {
@@ -241,9 +238,9 @@ void FrmHisab::buatMenu() {
     proses->setObjectName("PROSESMENU");
     QMenu* ijtima = proses->addMenu(QStringLiteral("Hisab Awal Bulan"));
     ijtima->setObjectName("mnuProsesIj");
-    for (const Kitab* k : ws_->kitabTersedia()) {
+    for (const EntriModul* k : ws_->kitabTersedia()) {
         QAction* a = aksi(ijtima, QStringLiteral("mnuProsesIj|%1").arg(k->kodeLembar), q(k->nama));
-        connect(a, &QAction::triggered, this, [this, kode = k->kode] { prosesKitab(kode); });
+        connect(a, &QAction::triggered, this, [this, kode = std::string(k->kode)] { prosesKitab(kode); });
         perintah_ << a;
     }
     proses->addSeparator();
@@ -284,34 +281,22 @@ void FrmHisab::buatMenu() {
 }
 
 void FrmHisab::isiPohon() {
-    // A group row (no CodeGarapan) opens a group; the treatises under it that exist follow.
-    // A treatise that does not exist yet is left out, and so is a group left empty.
-    std::vector<std::string> ada;
-    for (const Kitab* k : ws_->kitabTersedia()) ada.push_back(k->kode);
-    Tabel& nodes = koneksi_->Nodes;
-    QTreeWidgetItem* kelompok = nullptr;
-    for (nodes.moveFirst(); !nodes.eof(); nodes.moveNext()) {
-        const std::string teks = BacaTeks(nodes, "Text");
-        const std::string garapan = BacaTeks(nodes, "CodeGarapan");
-        const std::string kode = BacaTeks(nodes, "CodeKitab");
-        if (garapan.empty()) {
-            kelompok = new QTreeWidgetItem({q(teks)});
-            kelompok->setFlags(Qt::ItemIsEnabled);
-            pohon_->addTopLevelItem(kelompok);
-            continue;
+    // The modules that exist, under the heading of their group, in the order of the registry;
+    // a group without one is left out.
+    for (const EntriModul* k : ws_->kitabTersedia()) {
+        const QString kelompok = q(NamaKelompok(k->garapan, k->aliran));
+        QTreeWidgetItem* induk = nullptr;
+        for (int i = 0; i < pohon_->topLevelItemCount() && !induk; ++i)
+            if (pohon_->topLevelItem(i)->text(0) == kelompok) induk = pohon_->topLevelItem(i);
+        if (!induk) {
+            induk = new QTreeWidgetItem({kelompok});
+            induk->setFlags(Qt::ItemIsEnabled);
+            pohon_->addTopLevelItem(induk);
         }
-        if (garapan != "Ij" || std::find(ada.begin(), ada.end(), kode) == ada.end()) continue;
-        auto* item = new QTreeWidgetItem({q(teks)});
-        item->setData(0, kPeranKitab, q(kode));
-        if (const Kitab* k = CariKitab(kode)) item->setToolTip(0, q(k->nama));
-        if (kelompok)
-            kelompok->addChild(item);
-        else
-            pohon_->addTopLevelItem(item);
-    }
-    for (int i = pohon_->topLevelItemCount() - 1; i >= 0; --i) {
-        QTreeWidgetItem* t = pohon_->topLevelItem(i);
-        if (t->data(0, kPeranKitab).toString().isEmpty() && t->childCount() == 0) delete pohon_->takeTopLevelItem(i);
+        auto* item = new QTreeWidgetItem({q(k->namaPohon)});
+        item->setData(0, kPeranKitab, q(k->kode));
+        item->setToolTip(0, q(k->nama));
+        induk->addChild(item);
     }
     pohon_->expandAll();
 }
@@ -445,8 +430,7 @@ void FrmHisab::tampilkanPesan(const Workspace::Pesan& pesan) {
 void FrmHisab::tambahTab(const LembarKerja& lembar) {
     auto* t = new TabLembar(lembar);
     const int i = tab_->addTab(t, q(lembar.judul));
-    const Kitab* k = CariKitab(lembar.kitab);
-    tab_->setTabToolTip(i, (k ? q(k->nama) : q(lembar.kitab)) + QStringLiteral(" (") + q(lembar.kunci) + QLatin1Char(')'));
+    tab_->setTabToolTip(i, q(lembar.modul->nama) + QStringLiteral(" (") + q(lembar.kunci) + QLatin1Char(')'));
     tengah_->setCurrentWidget(tab_);
     perbaruiMenuLembar();
 }

@@ -154,7 +154,7 @@ int main() {
     std::printf("%-5s %-9s %-38s %-38s\n", "kitab", "markaz", "to the one ending m", "to the one opening m");
     for (const Markaz& mk : kMarkaz) {
         ws.pilihTempat(mk.tempat);
-        MetodeIjtima* m = ws.metode(CariKitab(mk.kitab)->kodeLembar);
+        Modul* m = ws.modul(mk.kitab);
         Stat akhir, awal;
         for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
             Nilai alamah;
@@ -192,7 +192,7 @@ int main() {
     std::printf("\n1b. Ittifaq's Masehi date of its mean ijtima' (date step, tdThMasehi, the months' Masehi days)\n");
     {
         ws.pilihTempat("Surabaya");
-        auto* idb = dynamic_cast<FathurRouf*>(ws.metode(11));
+        auto* idb = dynamic_cast<FathurRouf*>(ws.modul("IDB1"));
         Tabel& syahru = koneksi.TRBSyahru;
         Stat beda;
         int hariSalah = 0;
@@ -274,7 +274,7 @@ int main() {
     std::printf("\n3. Hours per degree of elongation: table 6 at Tadzkirotu's anomaly against the sky\n");
     {
         ws.pilihTempat("Semarang");
-        auto* tz = dynamic_cast<FathurRouf*>(ws.metode(23));
+        auto* tz = dynamic_cast<FathurRouf*>(ws.modul("TZ"));
         Stat beda;
         for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
             tz->PokokFR(tahun, 1);

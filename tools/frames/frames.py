@@ -1,7 +1,6 @@
 #!/usr/bin/env python3
 """Writes the tables of the program's own texts: data/Names.csv (the frames of the worked
-sheets), data/ListTxt.csv (the labels of the conclusion lines) and data/Nodes.csv (the tree of
-treatises).
+sheets) and data/ListTxt.csv (the labels of the conclusion lines).
 
 Each treatise X in Names has four columns NamaX, BarisX, Kolom1X, Kolom2X: a label text, its row and
 the first and last column it spans. The value cells themselves are written by the reckoning;
@@ -200,25 +199,6 @@ LABEL = [
     "Warna gerhana : ",           # 25
 ]
 
-# The tree of treatises: a group row (no kind of work) opens a group, the rows after it are
-# its treatises. CodeGarapan is the kind of work ("Ij" the ijtima' and hilal), CodeKitab the
-# treatise's code or the group's key.
-NODES = [
-    ("Hisab Taqribi", "", "Taqribi"),
-    ("Sullam al-Nairoin", "Ij", "SN"),
-    ("Fathu al-Ro'uf al-Mannan", "Ij", "FR"),
-    ("Ittifaq Dzatu al-Bain (Taqribi)", "Ij", "IDB1"),
-    ("Syamsu al-Hilal", "Ij", "SH"),
-    ("Tadzkirotu al-Ikhwan", "Ij", "TZ"),
-    ("Khulashotu al-Wafiyah (Taqribi)", "Ij", "KW1"),
-    ("Faidlu al-Karim", "Ij", "FK"),
-    ("Hisab Tahqiqi", "", "Tahqiqi"),
-    ("Badi'atu al-Mitsal", "Ij", "BM"),
-    ("Nuru al-Anwar", "Ij", "NA"),
-    ("Ephemeris", "Ij", "ER"),
-]
-
-
 PERIKSA = "--verify" in sys.argv[1:]
 USANG = []
 
@@ -259,7 +239,6 @@ def main():
         baris.append(b)
     tulis("Names.csv", kolom, baris)
     tulis("ListTxt.csv", ["IsiText"], [[t] for t in LABEL])
-    tulis("Nodes.csv", ["Text", "CodeGarapan", "CodeKitab"], NODES)
 
 
 if __name__ == "__main__":

@@ -9,8 +9,6 @@ namespace {
 
 const DataKitabFR kFaidlulKarim = {
     "FK",
-    "Faidlu al-Karim",
-    "IjFK_",
     5,
     {2, 3, 4, 5},
     {"622 07 15 00 05 03 14 27 00 1", "11 18 45 34 00 1", "03 27 21 24 00 1", "03 20 10 54 00 1",

@@ -17,8 +17,6 @@ namespace {
 
 const DataKitabFR kFathurRouf = {
     "FR",
-    "Fathu al-Ro'uf al-Mannan",
-    "IjFR_",
     5,
     {2, 3, 4, 5},
     {"000 00 00 00 03 10 58 00 00 1", "08 28 18 00 00 1", "07 14 33 00 00 1", "08 12 13 00 00 1",
@@ -219,24 +217,23 @@ void FathurRouf::hitungTahap(int32_t tahun, int16_t bulan) {
     maju.langkah();
 }
 
-void FathurRouf::KesimpulanFR() {
-    const HariHasil h = hariHasil();
+void FathurRouf::KesimpulanFR(HasilHitung& h) {
+    const HariHasil hari = hariHasil();
     BahanKesimpulan b;
     b.judul = judulKesimpulan();
     b.ijtima = ijtimaSejakMaghrib();
-    b.hariIjtima = h.ijtima;
-    b.awalBulan = h.awal;
+    b.hariIjtima = hari.ijtima;
+    b.awalBulan = hari.awal;
     b.tinggi = Hilal(5);
     b.matahari = BudTaqwim(3);
     b.mukts = Hilal(7);
     b.nur = Nur(2);
     b.gurubHariIjtima = data_.gurubHariIjtima;
     b.markaz = data_.markazKesimpulan;
-    TulisKesimpulanTaqribi(k_, b, kesimpulan_, ringkasan_);
+    TulisKesimpulanTaqribi(k_, b, h.kesimpulan, h.ringkasan);
 }
 
-void FathurRouf::IsiTabelFR() {
-    ClsFlexGrid& g = k_.grid;
+void FathurRouf::IsiTabelFR(ClsFlexGrid& g) {
     const Sesi& s = k_.sesi;
     g.FlexSetting(40, 40, 490, 500, 2500, true);
     IsiBingkai(g, k_.koneksi.Names, data_.kode);
@@ -249,8 +246,7 @@ void FathurRouf::IsiTabelFR() {
     g.FlexTeks(s.tempat.nama, barisKanan(27), 39);
 }
 
-void FathurRouf::tulisSel() {
-    ClsFlexGrid& g = k_.grid;
+void FathurRouf::tulisSel(ClsFlexGrid& g) {
     constexpr int T = ClsFlexGrid::kTanpaMedan;
     const std::initializer_list<int> lima = {1, 2, 3, 4, 5};
     const size_t sel = static_cast<size_t>(data_.jumlahSel);
@@ -280,24 +276,25 @@ void FathurRouf::tulisSel() {
     for (size_t k = 1; k <= static_cast<size_t>(data_.jumlahQomar); ++k)
         g.FlexData(Qomar(k), static_cast<int>(k) + 7, 37, lima);
     TulisNamaManzil(g, Manzil(6).teks(), 29, 7);
-    tulisSelTambahan();
+    tulisSelTambahan(g);
 }
 
-void FathurRouf::HitungIjtimaFR(int32_t tahun, int16_t bulan) {
+HasilHitung FathurRouf::HitungIjtimaFR(int32_t tahun, int16_t bulan, bool lembar) {
     Kemajuan& maju = k_.kemajuan;
+    HasilHitung h;
     maju.mulai(kLangkah);
     hitungTahap(tahun, bulan);
-    KesimpulanFR();
+    KesimpulanFR(h);
     maju.langkah();
-    IsiTabelFR();
-    maju.langkah();
-    tulisSel();
+    if (lembar) {
+        ClsFlexGrid g(&h.lembarBaru(""));
+        IsiTabelFR(g);
+        maju.langkah();
+        tulisSel(g);
+        h.baris = baris();
+    }
     maju.penuh();
-}
-
-void FathurRouf::HitungRingkas(int32_t tahun, int16_t bulan) {
-    hitungTahap(tahun, bulan);
-    KesimpulanFR();
+    return h;
 }
 
 std::optional<Nilai> FathurRouf::AwalBulanFR(int32_t tahun, int16_t bulan) {

@@ -25,11 +25,12 @@
 
 #include "methods/Baris.h"
 #include "methods/Konteks.h"
-#include "methods/MetodeIjtima.h"
+#include "methods/Modul.h"
 #include "methods/taqribi/KesimpulanTaqribi.h"
 
 namespace falak {
 
+class ClsFlexGrid;
 class Tabel;
 
 // How a treatise splits the years since its base into groups and single years. With
@@ -54,9 +55,7 @@ struct LetakUnsur {
 
 // The constants and choices that tell one treatise of the skeleton from another.
 struct DataKitabFR {
-    const char* kode;
-    const char* nama;
-    const char* awalan;
+    const char* kode;  // the book's columns in the frames table
     int jumlahSel;  // cells of the year, month and sum rows: 5, or 4 without a Hishshoh
     LetakUnsur unsur;
     std::array<const char*, 5> mabda;   // the base
@@ -70,21 +69,17 @@ struct DataKitabFR {
     bool gurubHariIjtima;          // the sunset line for the day of the ijtima' (else the first of the month)
 };
 
-class FathurRouf : public MetodeIjtima {
+class FathurRouf : public Modul {
 public:
     explicit FathurRouf(Konteks k);
 
-    std::string kode() const override { return data_.kode; }
-    std::string nama() const override { return data_.nama; }
-    std::string awalanLembar() const override { return data_.awalan; }
-
-    void Hitung(int32_t tahun, int16_t bulan) override { HitungIjtimaFR(tahun, bulan); }
-    void HitungRingkas(int32_t tahun, int16_t bulan) override;
+    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaFR(p.tahun, p.bulan, p.lembar); }
     std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override { return AwalBulanFR(tahun, bulan); }
-    std::vector<BarisTercatat> baris() const override;
+    std::vector<BarisTercatat> baris() const;
 
-    // The whole run: the stages, the conclusion, the frame and the cells of the sheet.
-    void HitungIjtimaFR(int32_t tahun, int16_t bulan);
+    // The whole run: the stages, the conclusion and, with lembar, the frame and the cells of
+    // the sheet.
+    HasilHitung HitungIjtimaFR(int32_t tahun, int16_t bulan, bool lembar = true);
     // The first of the month: stores the year and month in the chosen date, runs the five
     // reckoning stages without any sheet, and returns the day of the ijtima' advanced by 25
     // hours, or 49 when the hilal stands below 2 degrees (a date value whose hour reads 01).
@@ -96,8 +91,8 @@ public:
     virtual void QomarFR();
     virtual void IjtimaFR();
     virtual void HilalFR();
-    void KesimpulanFR();
-    void IsiTabelFR();
+    void KesimpulanFR(HasilHitung& h);
+    void IsiTabelFR(ClsFlexGrid& g);
 
     const DataKitabFR& data() const { return data_; }
 
@@ -139,7 +134,7 @@ protected:
     // The conclusion's heading.
     virtual std::string judulKesimpulan() const;
     // Rows that a treatise adds to the sheet, its cells and its list of rows.
-    virtual void tulisSelTambahan() {}
+    virtual void tulisSelTambahan(ClsFlexGrid&) {}
     virtual void catatTambahan(std::vector<BarisTercatat>&) const {}
 
     // The place's longitude less the markaz's, in hours, as an alamah value.
@@ -160,7 +155,7 @@ protected:
     Konteks k_;
 
 private:
-    void tulisSel();
+    void tulisSel(ClsFlexGrid& g);
     const DataKitabFR& data_;
 };
 

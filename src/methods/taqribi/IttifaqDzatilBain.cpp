@@ -13,8 +13,6 @@ namespace {
 
 const DataKitabFR kIttifaqDzatilBain = {
     "IDB1",
-    "Ittifaq Dzatu al-Bain Taqribi",
-    "IjIDB1_",
     5,
     {2, 3, 4, 5},
     {"622 07 15 00 05 03 12 00 00 1", "11 18 46 00 00 1", "03 27 22 00 00 1", "03 20 12 00 00 1",
@@ -108,8 +106,7 @@ Nilai IttifaqDzatilBain::hariIjtima() {
                  std::to_string(pasaran) + " " + std::to_string(hari) + " 00 00 00 00 1");
 }
 
-void IttifaqDzatilBain::tulisSelTambahan() {
-    ClsFlexGrid& g = k_.grid;
+void IttifaqDzatilBain::tulisSelTambahan(ClsFlexGrid& g) {
     for (size_t k = 1; k <= 7; ++k) g.FlexData(Waktu(k), static_cast<int>(k) + 31, 19, {1, 2, 3, 4, 5});
     // Each sign stands beside its cell: cells 2 to 7, the latitude being cell 3.
     for (size_t i = 0; i < Tanda.size(); ++i) g.FlexTeks(Tanda[i], static_cast<int>(i) + 33, 21);

@@ -31,7 +31,7 @@ protected:
 
     Nilai alamahSyahr(const Tabel& syahru) const override;
     Nilai hariIjtima() override;
-    void tulisSelTambahan() override;
+    void tulisSelTambahan(ClsFlexGrid& g) override;
     void catatTambahan(std::vector<BarisTercatat>& baris) const override;
     // The place correction leaves its count of days (Faidlu al-Karim) or not.
     virtual bool bujurBertanggal() const { return false; }

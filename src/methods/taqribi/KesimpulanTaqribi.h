@@ -9,7 +9,7 @@
 
 #include "core/Nilai.h"
 #include "methods/Konteks.h"
-#include "methods/MetodeIjtima.h"
+#include "methods/Modul.h"
 
 namespace falak {
 

@@ -10,8 +10,6 @@ namespace {
 
 const DataKitabFR kKhulashohWafiyah = {
     "KW1",
-    "Khulashotu al-Wafiyah Taqribi",
-    "IjKW1_",
     4,
     {0, 2, 3, 4},
     {"000 00 00 00 02 12 08 00 00 1", "07 14 45 00 00 1", "08 12 47 00 00 1", "04 21 32 00 00 1", nullptr},

@@ -113,7 +113,7 @@ void SullamNairoin::IjtimaSN() {
 
 void SullamNairoin::HilalSN() { HilalMaghribTetap(Hilal.semua(), Nur.semua(), Ijtima(5), TdlAr(5)); }
 
-void SullamNairoin::KesimpulanSN() {
+void SullamNairoin::KesimpulanSN(HasilHitung& h) {
     BahanKesimpulan b;
     b.judul = k_.sesi.namaKitab;
     b.ijtima = Ijtima(5);
@@ -125,11 +125,10 @@ void SullamNairoin::KesimpulanSN() {
     b.nur = Nur(2);
     b.gurubHariIjtima = true;
     b.markaz = {"Jakarta", 6, 15, 0, 106, 52, 1};
-    TulisKesimpulanTaqribi(k_, b, kesimpulan_, ringkasan_);
+    TulisKesimpulanTaqribi(k_, b, h.kesimpulan, h.ringkasan);
 }
 
-void SullamNairoin::IsiTabelSN() {
-    ClsFlexGrid& g = k_.grid;
+void SullamNairoin::IsiTabelSN(ClsFlexGrid& g) {
     const Sesi& s = k_.sesi;
     g.FlexSetting(40, 40, 490, 500, 2500, true);
     IsiBingkai(g, k_.koneksi.Names, "SN");
@@ -143,8 +142,7 @@ void SullamNairoin::IsiTabelSN() {
     g.FlexTeks(s.tempat.nama, 31, 39);
 }
 
-void SullamNairoin::tulisSel() {
-    ClsFlexGrid& g = k_.grid;
+void SullamNairoin::tulisSel(ClsFlexGrid& g) {
     constexpr int T = ClsFlexGrid::kTanpaMedan;
     int c = 37;
     for (size_t k = 1; k <= 7; c -= 6, ++k) {
@@ -190,21 +188,22 @@ void SullamNairoin::tahap(int32_t tahun, int16_t bulan) {
     maju.langkah();
 }
 
-void SullamNairoin::HitungIjtimaSN(int32_t tahun, int16_t bulan) {
+HasilHitung SullamNairoin::HitungIjtimaSN(int32_t tahun, int16_t bulan, bool lembar) {
     Kemajuan& maju = k_.kemajuan;
+    HasilHitung h;
     maju.mulai(kLangkah);
     tahap(tahun, bulan);
-    KesimpulanSN();
+    KesimpulanSN(h);
     maju.langkah();
-    IsiTabelSN();
-    maju.langkah();
-    tulisSel();
+    if (lembar) {
+        ClsFlexGrid g(&h.lembarBaru(""));
+        IsiTabelSN(g);
+        maju.langkah();
+        tulisSel(g);
+        h.baris = baris();
+    }
     maju.penuh();
-}
-
-void SullamNairoin::HitungRingkas(int32_t tahun, int16_t bulan) {
-    tahap(tahun, bulan);
-    KesimpulanSN();
+    return h;
 }
 
 std::optional<Nilai> SullamNairoin::AwalBulan(int32_t tahun, int16_t bulan) {

@@ -11,26 +11,24 @@
 
 #include "methods/Baris.h"
 #include "methods/Konteks.h"
-#include "methods/MetodeIjtima.h"
+#include "methods/Modul.h"
 
 namespace falak {
 
-class SullamNairoin : public MetodeIjtima {
+class ClsFlexGrid;
+
+class SullamNairoin : public Modul {
 public:
     explicit SullamNairoin(Konteks k) : k_(k) {}
 
-    std::string kode() const override { return "SN"; }
-    std::string nama() const override { return "Sullam al-Nairoin"; }
-    std::string awalanLembar() const override { return "IjSN_"; }
-
-    void Hitung(int32_t tahun, int16_t bulan) override { HitungIjtimaSN(tahun, bulan); }
-    void HitungRingkas(int32_t tahun, int16_t bulan) override;
+    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaSN(p.tahun, p.bulan, p.lembar); }
     // The day of the ijtima' advanced by 25 hours, or 49 when the hilal stands below 2 degrees.
     std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override;
-    std::vector<BarisTercatat> baris() const override;
+    std::vector<BarisTercatat> baris() const;
 
-    // The whole run: the stages, the conclusion, the frame and the cells of the sheet.
-    void HitungIjtimaSN(int32_t tahun, int16_t bulan);
+    // The whole run: the stages, the conclusion and, with lembar, the frame and the cells of
+    // the sheet.
+    HasilHitung HitungIjtimaSN(int32_t tahun, int16_t bulan, bool lembar = true);
 
     // The stages, in this order; each reads what the one before it wrote.
     void JumlahSN(int32_t tahun, int16_t bulan);
@@ -38,8 +36,8 @@ public:
     void QomarSN();
     void IjtimaSN();
     void HilalSN();
-    void KesimpulanSN();
-    void IsiTabelSN();
+    void KesimpulanSN(HasilHitung& h);
+    void IsiTabelSN(ClsFlexGrid& g);
 
     // Rows of the run, kept between runs.
     Baris<5> Majmu, Mabsut, Syahr, Jumlah;
@@ -57,7 +55,7 @@ public:
 
 private:
     void tahap(int32_t tahun, int16_t bulan);
-    void tulisSel();
+    void tulisSel(ClsFlexGrid& g);
     Konteks k_;
 };
 

@@ -185,7 +185,7 @@ void SyamsulHilal::HilalSH() {
     SHHilal(10) = HitungSH(-1, 1, 0, SHHilal(8), 0, SHHilal(9), SHHariText);
 }
 
-void SyamsulHilal::KesimpulanSH() {
+void SyamsulHilal::KesimpulanSH(HasilHitung& h) {
     BahanKesimpulan b;
     b.judul = k_.sesi.namaKitab;
     b.ijtima = SHIjtimaAlamah;
@@ -197,11 +197,10 @@ void SyamsulHilal::KesimpulanSH() {
     b.nur = keNilai(SHHilal(9), SHHilal(9) > 180 ? 0 : 1);
     // The markaz line as the treatise's writer has it, its latitude flagged 1.
     b.markaz = {"Jepara", 6, 36, 1, kBujurMarkazDerajat, kBujurMarkazMenit, 1};
-    TulisKesimpulanTaqribi(k_, b, kesimpulan_, ringkasan_);
+    TulisKesimpulanTaqribi(k_, b, h.kesimpulan, h.ringkasan);
 }
 
-void SyamsulHilal::IsiTabelSH() {
-    ClsFlexGrid& g = k_.grid;
+void SyamsulHilal::IsiTabelSH(ClsFlexGrid& g) {
     const Sesi& s = k_.sesi;
     g.FlexSetting(19, 12, 900, 300, 2500, true);
     IsiBingkai(g, k_.koneksi.Names, "SH");
@@ -228,8 +227,7 @@ void SyamsulHilal::TigaDesimalSH() {
     }
 }
 
-void SyamsulHilal::tulisSel() {
-    ClsFlexGrid& g = k_.grid;
+void SyamsulHilal::tulisSel(ClsFlexGrid& g) {
     // The sums of years and months, one row each, from Hari at column 9 leftwards.
     int baris = 3;
     for (auto* row : {&SHMajmu, &SHMabsut, &SHSyahr, &SHJumlah}) {
@@ -262,12 +260,6 @@ void SyamsulHilal::IjtimaSajaSH(int32_t tahun, int16_t bulan) {
     IjtimaSH();
 }
 
-void SyamsulHilal::HitungRingkas(int32_t tahun, int16_t bulan) {
-    IjtimaSajaSH(tahun, bulan);
-    HilalSH();
-    KesimpulanSH();
-}
-
 std::optional<Nilai> SyamsulHilal::AwalBulan(int32_t tahun, int16_t bulan) {
     k_.sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
     IjtimaSajaSH(tahun, bulan);
@@ -275,20 +267,31 @@ std::optional<Nilai> SyamsulHilal::AwalBulan(int32_t tahun, int16_t bulan) {
     return AwalBulanJam(HariIjtimaTaqribi(k_, SHIjtimaAlamah), SHHilal(5));
 }
 
-void SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan) {
+HasilHitung SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar) {
     Kemajuan& maju = k_.kemajuan;
+    HasilHitung h;
     maju.mulai(kLangkah);
     PokokSH(tahun, bulan);
     maju.langkah();
     for (void (SyamsulHilal::*tahap)() : {&SyamsulHilal::TaadilSH, &SyamsulHilal::QomarSH, &SyamsulHilal::BudSH,
                                           &SyamsulHilal::MuqowwamSH, &SyamsulHilal::ManzilSH, &SyamsulHilal::SaahSH,
-                                          &SyamsulHilal::IjtimaSH, &SyamsulHilal::HilalSH, &SyamsulHilal::KesimpulanSH,
-                                          &SyamsulHilal::IsiTabelSH, &SyamsulHilal::TigaDesimalSH}) {
+                                          &SyamsulHilal::IjtimaSH, &SyamsulHilal::HilalSH}) {
         (this->*tahap)();
         maju.langkah();
     }
-    tulisSel();
+    KesimpulanSH(h);
+    maju.langkah();
+    if (lembar) {
+        ClsFlexGrid g(&h.lembarBaru(""));
+        IsiTabelSH(g);
+        maju.langkah();
+        TigaDesimalSH();
+        maju.langkah();
+        tulisSel(g);
+        h.baris = baris();
+    }
     maju.penuh();
+    return h;
 }
 
 std::vector<BarisTercatat> SyamsulHilal::baris() const {

@@ -22,28 +22,25 @@
 
 #include "methods/Baris.h"
 #include "methods/Konteks.h"
-#include "methods/MetodeIjtima.h"
+#include "methods/Modul.h"
 
 namespace falak {
 
-class SyamsulHilal : public MetodeIjtima {
+class ClsFlexGrid;
+
+class SyamsulHilal : public Modul {
 public:
     explicit SyamsulHilal(Konteks k) : k_(k) {}
 
-    std::string kode() const override { return "SH"; }
-    std::string nama() const override { return "Syamsu al-Hilal"; }
-    std::string awalanLembar() const override { return "IjSH_"; }
-
-    void Hitung(int32_t tahun, int16_t bulan) override { HitungIjtimaSH(tahun, bulan); }
-    // The run with its conclusion and no sheet; only the whole run rounds its rows.
-    void HitungRingkas(int32_t tahun, int16_t bulan) override;
+    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaSH(p.tahun, p.bulan, p.lembar); }
     // The day of the ijtima' advanced by 25 hours, or 49 when the hilal stands below 2 degrees.
     std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override;
-    std::vector<BarisTercatat> baris() const override;
+    std::vector<BarisTercatat> baris() const;
 
-    // The whole run: the stages, the conclusion, the frame, the rounding of the rows to three
-    // decimals and the cells of the sheet.
-    void HitungIjtimaSH(int32_t tahun, int16_t bulan);
+    // The whole run: the stages and the conclusion; with lembar then the frame, the rounding
+    // of the rows to three decimals and the cells of the sheet. Only a run with its sheet
+    // rounds its rows.
+    HasilHitung HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar = true);
     // The stages from the year split to the ijtima' only, without words or sheet.
     void IjtimaSajaSH(int32_t tahun, int16_t bulan);
 
@@ -57,8 +54,8 @@ public:
     void SaahSH();
     void IjtimaSH();
     void HilalSH();
-    void KesimpulanSH();
-    void IsiTabelSH();
+    void KesimpulanSH(HasilHitung& h);
+    void IsiTabelSH(ClsFlexGrid& g);
     // Every cell of the rows kept to three decimals, through the text "0.000".
     void TigaDesimalSH();
 
@@ -82,7 +79,7 @@ public:
     Nilai SHIjtimaAlamah;        // the ijtima' at the place as an alamah value, for the words
 
 private:
-    void tulisSel();
+    void tulisSel(ClsFlexGrid& g);
     Konteks k_;
 };
 

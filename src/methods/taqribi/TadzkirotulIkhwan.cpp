@@ -8,8 +8,6 @@ namespace {
 
 const DataKitabFR kTadzkirotulIkhwan = {
     "TZ",
-    "Tadzkirotu al-Ikhwan",
-    "IjTZ_",
     5,
     {2, 3, 4, 5},
     {"000 00 00 01 06 00 37 33 00 1", "10 24 38 10 00 1", "04 29 31 03 00 1", "08 20 48 12 00 1",

@@ -1,0 +1,71 @@
+// A module of the reckoning as the run driver sees it: a book's month, its lunar or solar
+// eclipse. Asked for a Hijri year and month at the session's place, it runs its stages and
+// returns what it found as a value: the sheets it painted, its conclusion lines, its named
+// rows and a summary of values from which every front end words what it shows. The rows a
+// book keeps from run to run stay in the module.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "core/Nilai.h"
+#include "core/Sheet.h"
+#include "methods/Baris.h"
+
+namespace falak {
+
+// What a run concludes, for the lines of a batch: the civil day and the clock time of the
+// ijtima', the hilal's height and the first of the month.
+struct Ringkasan {
+    Nilai tanggalIjtima;       // date value of the day of the ijtima'
+    std::string jamIjtima;     // "hh.mm WIS, hh.mm WIB" as the conclusion words it
+    Nilai tinggiHilal;         // the height as the treatise reckons it
+    Nilai awalBulan;           // date value of the first of the month
+};
+
+// What the driver asks of a module.
+struct Permintaan {
+    int32_t tahun = 0;
+    int16_t bulan = 0;
+    bool lembar = true;  // paint the sheets; a batch that prints no sheet asks for none
+};
+
+// A sheet that a run painted: the prefix of its key ("IjSN_", "TdlKfSN_"), its tab's caption
+// (empty: the driver's) and its cells.
+struct LembarHasil {
+    std::string awalan;
+    std::string judul;
+    Sheet isi;
+};
+
+struct HasilHitung {
+    std::vector<LembarHasil> lembar;
+    std::vector<std::string> kesimpulan;  // the heading first
+    std::vector<BarisTercatat> baris;     // every row of the run, named as the book names it
+    Ringkasan ringkasan;
+
+    // A new sheet at the end of the list, to be painted.
+    Sheet& lembarBaru(std::string awalan, std::string judul = {}) {
+        lembar.push_back({std::move(awalan), std::move(judul), {}});
+        return lembar.back().isi;
+    }
+};
+
+class Modul {
+public:
+    virtual ~Modul() = default;
+
+    virtual HasilHitung Hitung(const Permintaan& p) = 0;
+    // The first of the month that the ijtima' at the end of month `bulan` opens, as a date
+    // value, by the reckoning stages alone; none when the run could not place the ijtima' on
+    // the calendar. By default: the first of the month of a run without sheets.
+    virtual std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) {
+        const HasilHitung h = Hitung({tahun, bulan, false});
+        if (h.ringkasan.awalBulan.kosongTeks()) return std::nullopt;
+        return h.ringkasan.awalBulan;
+    }
+};
+
+}  // namespace falak
