@@ -40,6 +40,20 @@ void BM_DuaBelasBulanSemuaKitab(benchmark::State& state) {
 }
 BENCHMARK(BM_DuaBelasBulanSemuaKitab)->Unit(benchmark::kMicrosecond);
 
+// Every book, the twelve months of a thousand years, without sheets: the work of a run over
+// the whole span the books serve.
+void BM_SeribuTahunSemuaKitab(benchmark::State& state) {
+    Workspace& ws = sesi().ws;
+    for (auto _ : state) {
+        size_t n = 0;
+        for (int tahun = 1000; tahun < 2000; ++tahun)
+            n += ws.duaBelasBulanSemuaKitab(std::to_string(tahun), "Pasuruan", Workspace::Keluaran::Ringkas).ringkas.size();
+        benchmark::DoNotOptimize(n);
+    }
+    state.counters["kitab"] = static_cast<double>(ws.kitabTersedia().size());
+}
+BENCHMARK(BM_SeribuTahunSemuaKitab)->Unit(benchmark::kSecond)->Iterations(1);
+
 void BM_FathurTanpaLembar(benchmark::State& state) {
     Workspace& ws = sesi().ws;
     ws.pilihTempat("Semarang");
