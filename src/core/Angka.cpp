@@ -1,9 +1,12 @@
 #include "core/Angka.h"
 
+#include <charconv>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <limits>
+#include <string>
+#include <system_error>
 
 namespace falak {
 
@@ -34,9 +37,16 @@ size_t panjangAngka(std::string_view s) {
     return i;
 }
 
+// The number that panjangAngka measured, correctly rounded as strtod rounds it; from_chars does
+// not take a leading "+".
 double bacaAngka(std::string_view s) {
-    std::string buf(s);
-    return std::strtod(buf.c_str(), nullptr);
+    if (!s.empty() && s.front() == '+') s.remove_prefix(1);
+    double x = 0;
+    if (std::from_chars(s.data(), s.data() + s.size(), x).ec == std::errc::result_out_of_range) {
+        std::string buf(s);
+        return std::strtod(buf.c_str(), nullptr);
+    }
+    return x;
 }
 
 // The significant digits and decimal exponent of x, correctly rounded to n digits
@@ -49,13 +59,18 @@ struct Digit {
 
 Digit uraikan(double x, int n) {
     Digit d;
+    // to_chars with a precision rounds as printf's %E does.
     char buf[64];
-    std::snprintf(buf, sizeof buf, "%.*E", n - 1, x);
+    const char* akhir = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::scientific, n - 1).ptr;
     const char* p = buf;
     if (*p == '-') { d.negatif = true; ++p; }
-    for (; *p && *p != 'E'; ++p)
+    for (; p != akhir && *p != 'e'; ++p)
         if (isDigit(*p)) d.digit.push_back(*p);
-    if (*p == 'E') d.eksponen = std::atoi(p + 1);
+    if (p != akhir && *p == 'e') {
+        ++p;
+        if (*p == '+') ++p;
+        std::from_chars(p, static_cast<const char*>(akhir), d.eksponen);
+    }
     return d;
 }
 
