@@ -29,10 +29,10 @@ void BM_SullamTanpaLembar(benchmark::State& state) {
     SullamNairoin& sn = sesi().sn;
     for (auto _ : state) {
         sn.JumlahSN(1445, 8);
-        sn.TaadilSN();
-        sn.QomarSN();
-        sn.IjtimaSN();
-        sn.HilalSN();
+        sn.TaadilFR();
+        sn.QomarFR();
+        sn.IjtimaFR();
+        sn.HilalFR();
         benchmark::DoNotOptimize(sn.Hilal(5));
     }
 }
@@ -41,7 +41,7 @@ BENCHMARK(BM_SullamTanpaLembar);
 void BM_SullamDenganLembar(benchmark::State& state) {
     Sesi& s = sesi();
     for (auto _ : state) {
-        const HasilHitung h = s.sn.HitungIjtimaSN(1445, 8);
+        const HasilHitung h = s.sn.HitungIjtimaFR(1445, 8);
         benchmark::DoNotOptimize(h.lembar[0].isi.sel(29, 39));
     }
 }

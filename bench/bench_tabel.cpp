@@ -12,7 +12,7 @@
 #include <string>
 
 #include "core/Koneksi.h"
-#include "methods/tahqiqi/Taadil.h"
+#include "methods/Taadil.h"
 
 using namespace falak;
 namespace fs = std::filesystem;

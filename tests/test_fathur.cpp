@@ -45,7 +45,7 @@ struct Bagi {
     int32_t tahun, dawr, pengali, sisa;
 };
 
-void periksa(FathurRouf& m, std::initializer_list<Bagi> kasus) {
+void periksa(KerangkaTaqribi& m, std::initializer_list<Bagi> kasus) {
     for (const Bagi& b : kasus) {
         m.PokokFR(b.tahun, 1);
         EXPECT_EQ(m.Dawr, b.dawr) << b.tahun;

@@ -29,24 +29,24 @@ struct SesiUji : uji::SesiUji {
 
 TEST_F(SesiUji, YearSplitIntoGroupsOfTenAndSingleYears) {
     sn->JumlahSN(10, 1);
-    EXPECT_EQ(sn->Daur, 2);
+    EXPECT_EQ(sn->Dawr, 2);
     EXPECT_EQ(sn->SisaTahun, 0);
     EXPECT_EQ(sn->Mabsut(2).teks(), "00 00 00 00 00 1");
     // Epoch plus two groups of ten: Hishshoh 9s 16° 33' + 2 x 2s 20° 30'.
     EXPECT_EQ(sn->Majmu(2).teks(), "02 27 33 00 00 1");
 
     sn->JumlahSN(9, 1);
-    EXPECT_EQ(sn->Daur, 1);
+    EXPECT_EQ(sn->Dawr, 1);
     EXPECT_EQ(sn->SisaTahun, 9);
     EXPECT_EQ(sn->Majmu(2).teks(), "00 07 03 00 00 1");  // epoch plus one group, as for 10 to 19
 
     sn->JumlahSN(0, 1);
-    EXPECT_EQ(sn->Daur, 0);
+    EXPECT_EQ(sn->Dawr, 0);
     EXPECT_EQ(sn->SisaTahun, 10);
     EXPECT_EQ(sn->Majmu(2).teks(), "09 16 33 00 00 1");  // backward rows, counted zero times
 
     sn->JumlahSN(-15, 1);
-    EXPECT_EQ(sn->Daur, -1);
+    EXPECT_EQ(sn->Dawr, -1);
     EXPECT_EQ(sn->SisaTahun, 5);
     EXPECT_EQ(sn->Majmu(2).teks(), "06 26 03 00 00 1");
 }
@@ -66,13 +66,13 @@ TEST_F(SesiUji, PlaceAtTheMarkazHasNoCorrection) {
     ws->pilihTempat("Jakarta");
     sn->Jumlah(1) = Nilai("000 00 00 00 02 18 11 00 00 1");
     sn->Saah(5) = Nilai("00 00 00 00 00 1");
-    sn->IjtimaSN();
+    sn->IjtimaFR();
     EXPECT_EQ(sn->Ijtima(4).teks(), "000 00 00 00 00 00 00 00 00 0");
     EXPECT_EQ(sn->Ijtima(5).teks(), sn->Ijtima(3).teks());
 
     // Pasuruan lies 6° 04' east of the markaz: 24' 16" of time later.
     ws->pilihTempat("Pasuruan");
-    sn->IjtimaSN();
+    sn->IjtimaFR();
     EXPECT_EQ(sn->Ijtima(4).teks(), "000 00 00 00 00 00 24 16 00 1");
     EXPECT_EQ(sn->Ijtima(5).teks(), "000 00 00 00 02 18 35 16 00 1");
 }
@@ -80,7 +80,7 @@ TEST_F(SesiUji, PlaceAtTheMarkazHasNoCorrection) {
 TEST_F(SesiUji, HeightOfTheHilalFromTheHoursToSunset) {
     sn->Ijtima(5) = Nilai("000 00 00 00 02 18 11 00 00 1");
     sn->TdlAr(5) = Nilai("00 00 20 00 00 1");
-    sn->HilalSN();
+    sn->HilalFR();
     EXPECT_EQ(sn->Hilal(3).teks(), "00 05 49 00 00 1");
     EXPECT_EQ(sn->Hilal(5).teks(), "00 02 54 30 00 1");  // (24 h - 18 h 11 m) x 0° 30'
     EXPECT_EQ(sn->Hilal(7).teks(), "00 00 11 38 00 1");  // four minutes of stay a degree

@@ -5,7 +5,7 @@
 
 #include <array>
 
-#include "methods/tahqiqi/Taadil.h"
+#include "methods/Taadil.h"
 
 using namespace falak;
 

@@ -14,7 +14,7 @@
 #include "core/Sheet.h"
 #include "methods/Konteks.h"
 #include "methods/Modul.h"
-#include "methods/tahqiqi/Taadil.h"
+#include "methods/Taadil.h"
 #include "run/Registri.h"
 
 namespace falak {

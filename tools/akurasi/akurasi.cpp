@@ -29,8 +29,7 @@
 #include "core/FungsHisab.h"
 #include "core/Kalender.h"
 #include "core/Koneksi.h"
-#include "methods/taqribi/FathurRouf.h"
-#include "methods/taqribi/SullamNairoin.h"
+#include "methods/taqribi/KerangkaTaqribi.h"
 #include "methods/taqribi/SyamsulHilal.h"
 #include "run/Workspace.h"
 
@@ -164,14 +163,9 @@ int main() {
                 sh->PokokSH(tahun, 1);
                 jam1 = jamMinggu(static_cast<int>(sh->SHJumlah(1)), sh->SHJumlah(2));
             } else {
-                if (auto* sn = dynamic_cast<SullamNairoin*>(m)) {
-                    sn->JumlahSN(tahun, 1);
-                    alamah = sn->Jumlah(1);
-                } else {
-                    auto* fr = dynamic_cast<FathurRouf*>(m);
-                    fr->PokokFR(tahun, 1);
-                    alamah = fr->Jumlah(1);
-                }
+                auto* buku = dynamic_cast<KerangkaTaqribi*>(m);
+                buku->PokokFR(tahun, 1);
+                alamah = buku->Jumlah(1);
                 jam1 = jamMinggu(AmbilTingkat(alamah, 10), AmbilTingkat(alamah, 11) + AmbilTingkat(alamah, 12) / 60.0 +
                                                                AmbilTingkat(alamah, 13) / 3600.0);
             }
@@ -192,7 +186,7 @@ int main() {
     std::printf("\n1b. Ittifaq's Masehi date of its mean ijtima' (date step, tdThMasehi, the months' Masehi days)\n");
     {
         ws.pilihTempat("Surabaya");
-        auto* idb = dynamic_cast<FathurRouf*>(ws.modul("IDB1"));
+        auto* idb = dynamic_cast<KerangkaTaqribi*>(ws.modul("IDB1"));
         Tabel& syahru = koneksi.TRBSyahru;
         Stat beda;
         int hariSalah = 0;
@@ -274,7 +268,7 @@ int main() {
     std::printf("\n3. Hours per degree of elongation: table 6 at Tadzkirotu's anomaly against the sky\n");
     {
         ws.pilihTempat("Semarang");
-        auto* tz = dynamic_cast<FathurRouf*>(ws.modul("TZ"));
+        auto* tz = dynamic_cast<KerangkaTaqribi*>(ws.modul("TZ"));
         Stat beda;
         for (int tahun = kTahunAwal; tahun <= kTahunAkhir; ++tahun) {
             tz->PokokFR(tahun, 1);

@@ -24,6 +24,8 @@ const DataKitabFR kFaidlulKarim = {
     6,
     7,
     false,
+    true,
+    {3, false},
 };
 
 }  // namespace

@@ -1,162 +1,16 @@
 // Fathu al-Ro'uf al-Mannan: the ijtima' and the hilal at sunset for one Hijri month, worked as
 // the treatise works it by hand from its constants of thirty-year groups, single years and
-// months, in value arithmetic, with its markaz at Semarang (6° 56' S, 110° 24' E).
-//
-// Its stages are the skeleton of four more treatises that were written after its pattern
-// (Tadzkirotu al-Ikhwan, Khulashotu al-Wafiyah, Ittifaq Dzatu al-Bain and Faidlu al-Karim).
-// What one of them does differently is either data (its constants, its split of the years,
-// its markaz, the table of the fourth ta'dil row, the layout of its sheet) handed to this
-// class, or a small override of one stage. The books are kept apart: each keeps its own
-// constants and roundings even where two of them look alike.
-//
-// The rows hold, cell by cell: the alamah (weekday and hours counted from sunset, 18:00),
-// then the Hishshoh (the moon's distance from its node), the Wasath (the sun's mean place),
-// the Khossyoh (the moon's anomaly) and the Markaz (the sun's anomaly). A treatise without a
-// Hishshoh has four cells. The grouped years plus the single years give the mean ijtima'
-// that opens month 1 of the year Tahun; the month row of month m adds m - 1 lunations. So the
-// books count the month that begins: a run for the ijtima' at the end of month m (as the
-// driver asks every treatise) reckons their month m + 1.
+// months, in value arithmetic, with its markaz at Semarang (6° 56' S, 110° 24' E). Its stages
+// are the taqribi skeleton's, as they stand.
 #pragma once
 
-#include <array>
-#include <cstdint>
-#include <optional>
-#include <string>
-
-#include "methods/Baris.h"
-#include "methods/Konteks.h"
-#include "methods/Modul.h"
-#include "methods/taqribi/KesimpulanTaqribi.h"
+#include "methods/taqribi/KerangkaTaqribi.h"
 
 namespace falak {
 
-class ClsFlexGrid;
-class Tabel;
-
-// How a treatise splits the years since its base into groups and single years. With
-// Y = Tahun - 1 and G the years of a group:
-//   Y > atas:  Dawr = (Y + geser) \ G, multiplier Dawr, single years (Y + geser) mod G, adding;
-//   Y > bawah: Dawr = 0, multiplier 1, single years Y + geser, the row that adds nothing;
-//   else:      Dawr = (Y - mundur) \ G, multiplier |Dawr|, single years Y - G Dawr + geser,
-//              taking off; single years of a whole group fold back into one group less.
-// So the years counted from the base are always Y + geser.
-struct PembagiTahun {
-    int g;
-    int atas;
-    int geser;
-    int bawah;
-    int mundur;
-};
-
-// Where a treatise keeps each element in its rows (cell numbers from 1; 0 when it has none).
-struct LetakUnsur {
-    int hishshoh, wasath, khossyoh, markaz;
-};
-
-// The constants and choices that tell one treatise of the skeleton from another.
-struct DataKitabFR {
-    const char* kode;  // the book's columns in the frames table
-    int jumlahSel;  // cells of the year, month and sum rows: 5, or 4 without a Hishshoh
-    LetakUnsur unsur;
-    std::array<const char*, 5> mabda;   // the base
-    std::array<const char*, 5> tambah;  // a group, adding
-    std::array<const char*, 5> kurang;  // a group, taking off
-    PembagiTahun pembagi;
-    int bujurDerajat, bujurMenit;  // the markaz's longitude in the place correction
-    TitikMarkaz markazKesimpulan;  // the markaz as the conclusion names it
-    int kodeTdlHs;                 // table of the hours per degree: 4, or 6 with seconds
-    int jumlahQomar;               // cells of the moon's correction: 7, or 10
-    bool gurubHariIjtima;          // the sunset line for the day of the ijtima' (else the first of the month)
-};
-
-class FathurRouf : public Modul {
+class FathurRouf : public KerangkaTaqribi {
 public:
     explicit FathurRouf(Konteks k);
-
-    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaFR(p.tahun, p.bulan, p.lembar); }
-    std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override { return AwalBulanFR(tahun, bulan); }
-    std::vector<BarisTercatat> baris() const;
-
-    // The whole run: the stages, the conclusion and, with lembar, the frame and the cells of
-    // the sheet.
-    HasilHitung HitungIjtimaFR(int32_t tahun, int16_t bulan, bool lembar = true);
-    // The first of the month: stores the year and month in the chosen date, runs the five
-    // reckoning stages without any sheet, and returns the day of the ijtima' advanced by 25
-    // hours, or 49 when the hilal stands below 2 degrees (a date value whose hour reads 01).
-    std::optional<Nilai> AwalBulanFR(int32_t tahun, int16_t bulan);
-
-    // The stages, in this order; each reads what the one before it wrote.
-    virtual void PokokFR(int32_t tahun, int16_t bulan);
-    virtual void TaadilFR();
-    virtual void QomarFR();
-    virtual void IjtimaFR();
-    virtual void HilalFR();
-    void KesimpulanFR(HasilHitung& h);
-    void IsiTabelFR(ClsFlexGrid& g);
-
-    const DataKitabFR& data() const { return data_; }
-
-    // Rows of the run, kept between runs; a treatise with fewer cells leaves the last empty.
-    Baris<5> Majmu, Mabsut, Syahr, Jumlah;
-    Baris<5> TdlKs, TdlMr, TdlAr, TdlHs;
-    Baris<10> Qomar;
-    Baris<3> BudTaqwim;
-    Baris<5> TdlDq;
-    Baris<6> Manzil;
-    Baris<5> Saah, Ijtima;
-    Baris<7> Hilal;
-    Baris<2> Nur;
-    int32_t Dawr = 0;
-    int32_t Pengali = 0;
-    int16_t SisaTahun = 0;
-    int16_t Bulan = 0;
-
-protected:
-    FathurRouf(Konteks k, const DataKitabFR& data);
-
-    // Parts of the moon's stage: the moon's correction (Qomar), and the sun's place against it
-    // (BudTaqwim); then the look-up of the day's minutes and the mansion, which all share.
-    virtual void TaadilQomar();
-    virtual void HitungBudTaqwim();
-    // The hours between the luminaries (Saah).
-    void hitungSaah();
-    // The latitude's share of the hilal's light.
-    Nilai cahayaLintang() const;
-
-    // The month row from TRBSyahru; its alamah cell. A treatise whose alamah carries a
-    // Masehi date fills the date fields too.
-    virtual Nilai alamahSyahr(const Tabel& syahru) const;
-    // The ijtima' as the conclusion reads it: weekday and hours from sunset.
-    virtual Nilai ijtimaSejakMaghrib() const { return Ijtima(5); }
-    // The civil date of the ijtima' (a date value): the day of the Hijri month that falls on
-    // the reckoned weekday.
-    virtual Nilai hariIjtima();
-    // The conclusion's heading.
-    virtual std::string judulKesimpulan() const;
-    // Rows that a treatise adds to the sheet, its cells and its list of rows.
-    virtual void tulisSelTambahan(ClsFlexGrid&) {}
-    virtual void catatTambahan(std::vector<BarisTercatat>&) const {}
-
-    // The place's longitude less the markaz's, in hours, as an alamah value.
-    Nilai selisihBujur(bool bertanggal) const;
-    // The five reckoning stages.
-    void hitungTahap(int32_t tahun, int16_t bulan);
-    // Day of the ijtima' and first of the month of the last run.
-    struct HariHasil {
-        Nilai ijtima;
-        Nilai awal;
-    };
-    HariHasil hariHasil();
-
-    // Grid rows of the right block: the moon's rows first, everything below them moves down
-    // by the moon's extra cells.
-    int barisKanan(int barisFR) const { return barisFR + (data_.jumlahQomar - 7); }
-
-    Konteks k_;
-
-private:
-    void tulisSel(ClsFlexGrid& g);
-    const DataKitabFR& data_;
 };
 
 }  // namespace falak

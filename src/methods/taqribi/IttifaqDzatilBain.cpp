@@ -5,7 +5,7 @@
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Sesi.h"
-#include "methods/tahqiqi/Taadil.h"
+#include "methods/Taadil.h"
 
 namespace falak {
 
@@ -28,6 +28,8 @@ const DataKitabFR kIttifaqDzatilBain = {
     4,
     7,
     false,
+    true,
+    {3, false},
 };
 
 const Nilai kNol("00 00 00 00 00 1");
@@ -36,7 +38,7 @@ const Nilai kNol("00 00 00 00 00 1");
 
 IttifaqDzatilBain::IttifaqDzatilBain(Konteks k) : IttifaqDzatilBain(k, kIttifaqDzatilBain) {}
 
-IttifaqDzatilBain::IttifaqDzatilBain(Konteks k, const DataKitabFR& data) : FathurRouf(k, data) {}
+IttifaqDzatilBain::IttifaqDzatilBain(Konteks k, const DataKitabFR& data) : KerangkaTaqribi(k, data) {}
 
 Nilai IttifaqDzatilBain::alamahSyahr(const Tabel& syahru) const {
     auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, kolom); };
@@ -69,7 +71,7 @@ void IttifaqDzatilBain::IjtimaFR() {
 }
 
 void IttifaqDzatilBain::HilalFR() {
-    FathurRouf::HilalFR();
+    KerangkaTaqribi::HilalFR();
     WaktuIDB1();
 }
 
@@ -81,7 +83,7 @@ void IttifaqDzatilBain::WaktuIDB1() {
         const Nilai sb = TrigNilai(1, 1, b, false).value_or(kNol);
         return HitungDeret(3, 1, 1, sa, 3, sb, 0, kNol, 0, kNol, 0, kNol);
     };
-    Waktu(1) = TambahNilai(3, 3, 2, BudTaqwim(3), kNol);
+    Waktu(1) = TambahNilai(3, 3, 2, tempatMatahari(), kNol);
     isi(Waktu(2), sinKali(Waktu(1), Nilai("00 23 52 00 00 1")));
     Waktu(3) = DlorbuSittin(0, t.lintangDerajat, t.lintangMenit, 0, 0, AmbilTanda(Nilai(t.tandaLintang)), 1);
     isi(Waktu(4), sinKali(Waktu(2), Waktu(3)));

@@ -8,11 +8,11 @@
 #include <array>
 #include <string>
 
-#include "methods/taqribi/FathurRouf.h"
+#include "methods/taqribi/KerangkaTaqribi.h"
 
 namespace falak {
 
-class IttifaqDzatilBain : public FathurRouf {
+class IttifaqDzatilBain : public KerangkaTaqribi {
 public:
     explicit IttifaqDzatilBain(Konteks k);
 

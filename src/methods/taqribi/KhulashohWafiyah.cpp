@@ -2,7 +2,7 @@
 
 #include "conclusions/Kesimpulan.h"
 #include "core/FungsHisab.h"
-#include "methods/taqribi/LangkahTaqribi.h"
+#include "methods/LangkahTaqribi.h"
 
 namespace falak {
 
@@ -22,11 +22,13 @@ const DataKitabFR kKhulashohWafiyah = {
     4,
     7,
     false,
+    true,
+    {3, false},
 };
 
 }  // namespace
 
-KhulashohWafiyah::KhulashohWafiyah(Konteks k) : FathurRouf(k, kKhulashohWafiyah) {}
+KhulashohWafiyah::KhulashohWafiyah(Konteks k) : KerangkaTaqribi(k, kKhulashohWafiyah) {}
 
 void KhulashohWafiyah::HilalFR() {
     // The sunset of the day of the ijtima' at the place, in hours and minutes.

@@ -6,11 +6,11 @@
 // other books count from sunset.
 #pragma once
 
-#include "methods/taqribi/FathurRouf.h"
+#include "methods/taqribi/KerangkaTaqribi.h"
 
 namespace falak {
 
-class KhulashohWafiyah : public FathurRouf {
+class KhulashohWafiyah : public KerangkaTaqribi {
 public:
     explicit KhulashohWafiyah(Konteks k);
 

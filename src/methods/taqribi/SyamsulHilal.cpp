@@ -12,7 +12,7 @@
 #include "core/Koneksi.h"
 #include "core/Sesi.h"
 #include "methods/taqribi/KesimpulanTaqribi.h"
-#include "methods/taqribi/Lembar.h"
+#include "methods/Lembar.h"
 
 namespace falak {
 

@@ -23,11 +23,13 @@ const DataKitabFR kTadzkirotulIkhwan = {
     6,
     10,
     false,
+    true,
+    {3, false},
 };
 
 }  // namespace
 
-TadzkirotulIkhwan::TadzkirotulIkhwan(Konteks k) : FathurRouf(k, kTadzkirotulIkhwan) {}
+TadzkirotulIkhwan::TadzkirotulIkhwan(Konteks k) : KerangkaTaqribi(k, kTadzkirotulIkhwan) {}
 
 void TadzkirotulIkhwan::TaadilQomar() {
     Qomar(1) = TdlKs(5);

@@ -5,11 +5,11 @@
 // Semarang, as the book it follows.
 #pragma once
 
-#include "methods/taqribi/FathurRouf.h"
+#include "methods/taqribi/KerangkaTaqribi.h"
 
 namespace falak {
 
-class TadzkirotulIkhwan : public FathurRouf {
+class TadzkirotulIkhwan : public KerangkaTaqribi {
 public:
     explicit TadzkirotulIkhwan(Konteks k);
 

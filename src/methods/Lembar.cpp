@@ -1,4 +1,4 @@
-#include "methods/taqribi/Lembar.h"
+#include "methods/Lembar.h"
 
 #include <array>
 

@@ -1,4 +1,4 @@
-#include "methods/tahqiqi/Taadil.h"
+#include "methods/Taadil.h"
 
 #include <cmath>
 #include <optional>

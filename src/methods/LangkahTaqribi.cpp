@@ -1,10 +1,10 @@
-#include "methods/taqribi/LangkahTaqribi.h"
+#include "methods/LangkahTaqribi.h"
 
 #include <string>
 
 #include "core/FungsHisab.h"
 #include "core/Manzil.h"
-#include "methods/tahqiqi/Taadil.h"
+#include "methods/Taadil.h"
 
 namespace falak {
 
