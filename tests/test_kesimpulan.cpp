@@ -22,12 +22,10 @@ struct Uji : testing::Test {
 
 TEST_F(Uji, ConvertToHijriCarriesTheDayNumberToTheCivilCalendar) {
     EXPECT_EQ(teks(ks.ConvertToHijri(1445, 9, 1)), "2024 03 10 1 1 00 00 00 00 1");  // Ahad Legi
-    EXPECT_EQ(sesi.tahunMasehi, "2024");
     EXPECT_EQ(teks(ks.ConvertToHijri(1434, 9, 1)), "2013 07 8 3 2 00 00 00 00 1");
     EXPECT_EQ(teks(ks.ConvertToHijri(1434, 8, 30)), "2013 07 8 3 2 00 00 00 00 1");
     // Before the reform the Julian reckoning holds: 15 July 622, a Thursday.
     EXPECT_EQ(teks(ks.ConvertToHijri(1, 1, 1)), "622 07 15 5 5 00 00 00 00 1");
-    EXPECT_EQ(sesi.tahunMasehi, "622");
 }
 
 TEST_F(Uji, ConvertToHijriRefusesOverflow) {
@@ -68,7 +66,6 @@ TEST_F(Uji, FullMSpeaksADate) {
     sesi.barisBulan = 7;
     const Nilai selasa("2013 07 09 3 3 00 00 00 00 1");
     EXPECT_EQ(ks.FullM(selasa, "17", true), "Sy'ban : Selasa Pon, 9 Jul 2013 M.");
-    EXPECT_EQ(sesi.tanggalDiucap, selasa);
     EXPECT_EQ(ks.FullM(selasa, "36", false), "Selasa Pon, 9 Jul 2013 M.");
     EXPECT_EQ(ks.FullM(selasa, "18", false), "Malam Selasa Pon, 9 Jul 2013 M.");
     EXPECT_EQ(ks.CekHijriHaqiqi(selasa, Nilai("1434 9 1")), 1);

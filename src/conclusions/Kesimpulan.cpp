@@ -111,7 +111,6 @@ std::optional<Nilai> ClsKesimpulan::ConvertToHijri(int32_t tahun, int32_t bulan,
     int64_t W = n % 7 - 1, P = n % 5 - 1;
     if (W < 1) W += 7;
     if (P < 1) P += 5;
-    sesi_.tahunMasehi = std::to_string(y);
     char bln[8];
     std::snprintf(bln, sizeof bln, "%02d", bulanMasehi);
     return Nilai(std::to_string(y) + " " + bln + " " + std::to_string(static_cast<int64_t>(BulatGenap(hari))) + " " +
@@ -146,12 +145,11 @@ int16_t ClsKesimpulan::CekHijriHaqiqi(const Nilai& a, const Nilai& b) {
     return static_cast<int16_t>(AmbilTingkat(a, 8) - (t ? AmbilTingkat(*t, 8) : 0));
 }
 
-std::string ClsKesimpulan::FullM(const Nilai& tanggal, std::string_view jam, bool bulanHijri) {
+std::string ClsKesimpulan::FullM(const Nilai& tanggal, std::string_view jam, bool bulanHijri) const {
     std::string bulan;
     if (bulanHijri) {
         const std::string baris = kBarisBulan[static_cast<size_t>(sesi_.barisBulan % 12)];
         bulan = (baris.size() > 4 ? baris.substr(4) : std::string()) + " :";
-        sesi_.tanggalDiucap = tanggal;
     }
     const std::string hari = NamaHari(AmbilTingkat(tanggal, 10), jam, bulanHijri);
     const std::string pasaran = NamaPas(AmbilTingkat(tanggal, 9)) + ",";

@@ -28,14 +28,14 @@ public:
     // The day of Hijri month (tahun, bulan) that falls on the reckoned weekday: the last day
     // of the month, else the first fitting day from the 25th on. Empty when none fits; no
     // result when the year or month overflows the reckoning.
-    std::optional<Nilai> CariTHM(int32_t tahun, int32_t bulan, int32_t hari);
-    // A Hijri date on the Masehi calendar (the name is kept: it converts from Hijri). Writes
-    // the Masehi year box as every conversion does.
-    std::optional<Nilai> ConvertToHijri(int32_t tahun, int32_t bulan, int32_t tanggal);
+    static std::optional<Nilai> CariTHM(int32_t tahun, int32_t bulan, int32_t hari);
+    // A Hijri date on the Masehi calendar (the name is kept: it converts from Hijri), by the
+    // arithmetic calendar of the thirty-year cycle; it touches no state.
+    static std::optional<Nilai> ConvertToHijri(int32_t tahun, int32_t bulan, int32_t tanggal);
     // Day of the month of a less that of the Hijri date b on the Masehi calendar.
-    int16_t CekHijriHaqiqi(const Nilai& a, const Nilai& b);
+    static int16_t CekHijriHaqiqi(const Nilai& a, const Nilai& b);
     // A date in words; with bulanHijri the month list's name in front.
-    std::string FullM(const Nilai& tanggal, std::string_view jam, bool bulanHijri);
+    std::string FullM(const Nilai& tanggal, std::string_view jam, bool bulanHijri) const;
     static std::string NamaHari(int hari, std::string_view jam, bool bendera);
     static std::string NamaBulan(int bulan);
     static std::string NamaPas(int pasaran);

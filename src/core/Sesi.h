@@ -1,6 +1,6 @@
-// What every run reads and the books keep between runs: the place record, the chosen date,
-// the sheet being worked, the label list, and the boxes of the main form that a conclusion
-// writes. One object per session; tests make a fresh one.
+// What every run reads: the place record, the chosen date and month, the module being run,
+// the label list. The driver sets it before a run; the formatters only read it. One object per
+// session; tests make a fresh one.
 #pragma once
 
 #include <array>
@@ -25,8 +25,6 @@ struct Sesi {
     std::vector<std::string> label;    // the label list, in row order
     int barisBulan = 0;                // selected row of the month list, 0 to 11
     std::string tahunHijri;            // text of the Hijri year box
-    std::string tahunMasehi;           // text of the Masehi year box: every conversion writes it
-    Nilai tanggalDiucap;               // the last date spoken with its month name
     std::string namaKitab;             // the treatise of the sheet being worked
 
     // A label by position; empty past the end of the list.

@@ -46,14 +46,14 @@ constexpr int kPeranKitab = Qt::UserRole;  // the treatise's code on an item of 
 // Where the user's eye goes first on a start: the month that runs now, by the program's own
 // calendar. The first day of each month of the years around today's, the last one that has
 // begun wins.
-std::pair<int, int> bulanHijriHariIni(ClsKesimpulan& kesimpulan) {
+std::pair<int, int> bulanHijriHariIni() {
     const QDate hari = QDate::currentDate();
     const int perkiraan = static_cast<int>((hari.year() - 622) * 365.2425 / 354.367);
     std::pair<int, int> hasil{perkiraan, 1};
     QDate terbaik;
     for (int tahun = perkiraan - 1; tahun <= perkiraan + 2; ++tahun)
         for (int bulan = 1; bulan <= 12; ++bulan) {
-            const auto t = kesimpulan.ConvertToHijri(tahun, static_cast<int16_t>(bulan), 1);
+            const auto t = ClsKesimpulan::ConvertToHijri(tahun, static_cast<int16_t>(bulan), 1);
             if (!t) continue;
             const QDate awal(AmbilTingkat(*t, 6), AmbilTingkat(*t, 7), AmbilTingkat(*t, 8));
             if (awal.isValid() && awal <= hari && (!terbaik.isValid() || awal > terbaik)) {
@@ -316,7 +316,7 @@ void FrmHisab::isiDaerah(const QString& pilih) {
 }
 
 void FrmHisab::pilihHariIni() {
-    const auto [tahun, bulan] = bulanHijriHariIni(ws_->kesimpulan);
+    const auto [tahun, bulan] = bulanHijriHariIni();
     tahunH_->setText(QString::number(tahun));
     QSignalBlocker tahan(bulan_);
     bulan_->setCurrentRow(bulan - 1);
@@ -346,8 +346,8 @@ void FrmHisab::konversiTahun() {
         tahunM_->clear();
         return;
     }
-    if (ws_->kesimpulan.ConvertToHijri(*tahun, static_cast<int16_t>(bulanTerpilih()), 1))
-        tahunM_->setText(q(ws_->sesi.tahunMasehi));
+    if (const auto awal = ClsKesimpulan::ConvertToHijri(*tahun, static_cast<int16_t>(bulanTerpilih()), 1))
+        tahunM_->setText(QString::number(AmbilTingkat(*awal, MedanTahun)));
     else
         tahunM_->clear();
 }
@@ -403,7 +403,7 @@ void FrmHisab::selesaiProses(const Workspace::HasilProses& hasil) {
     tambahTab(*hasil.lembar);
     tab_->setCurrentIndex(tab_->count() - 1);
     tahunH_->setText(q(ws_->sesi.tahunHijri));
-    tahunM_->setText(q(ws_->sesi.tahunMasehi));
+    konversiTahun();
 }
 
 void FrmHisab::selesaiBatch(const Workspace::HasilBatch& hasil) {
@@ -416,7 +416,7 @@ void FrmHisab::selesaiBatch(const Workspace::HasilBatch& hasil) {
     if (!hasil.lembar.empty()) {
         tab_->setCurrentIndex(tab_->count() - 1);
         tahunH_->setText(q(ws_->sesi.tahunHijri));
-        tahunM_->setText(q(ws_->sesi.tahunMasehi));
+        konversiTahun();
     }
     if (hasil.dihentikan)
         statusBar()->showMessage(QStringLiteral("Proses dihentikan: %1 lembar selesai.").arg(hasil.lembar.size()), 8000);
