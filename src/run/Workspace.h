@@ -96,6 +96,11 @@ public:
         return e ? modul(*e) : nullptr;
     }
 
+    // The first of the month that the ijtima' at the end of month (tahun, bulan) opens, by the
+    // module of a registry entry run without sheets at the session's place; none when the
+    // module is not available or could not place the ijtima'.
+    std::optional<Nilai> awalBulan(const EntriModul& entri, int32_t tahun, int bulan);
+
     // Looks the place up in the register and fills the place record; the fixed record when
     // it is not there. False when it fell back.
     bool pilihTempat(const std::string& nama);
