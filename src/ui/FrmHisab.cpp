@@ -30,6 +30,7 @@
 #include "core/Koneksi.h"
 #include "core/Tabel.h"
 #include "ui/FrmDaerah.h"
+#include "ui/FrmKalender.h"
 #include "ui/KotakPesan.h"
 #include "ui/Pekerja.h"
 #include "ui/TabLembar.h"
@@ -269,6 +270,14 @@ void FrmHisab::buatMenu() {
         });
     });
     perintah_ << setahun;
+    QAction* kalender = aksi(proses, "mnuKalender", QStringLiteral("Kalender"));
+    connect(kalender, &QAction::triggered, this, [this] {
+        if (pekerja_->sibuk()) return;
+        auto* dialog = new FrmKalender(*ws_, tempatTerpilih(), this);
+        dialog->setAttribute(Qt::WA_DeleteOnClose);
+        dialog->open();
+    });
+    perintah_ << kalender;
 
     menuLembar_ = menuBar()->addMenu(QStringLiteral("&Lembar"));
     menuLembar_->setObjectName("SHEETSMENU");
