@@ -29,8 +29,9 @@ struct TanggalSipil {
 // Julian up to 4 October 1582, Gregorian from the next day, 15 October, as the reform counts
 // them. The weekday and the pasaran run on the day number itself, so the date has to come
 // from the same count: a date and a weekday that disagree name two different days.
+constexpr int64_t kHariReformasi = 577738;  // 15 October 1582
+
 TanggalSipil tanggalDariHari(int64_t n) {
-    constexpr int64_t kHariReformasi = 577738;  // 15 October 1582
     int64_t c;
     int64_t abad = 0;
     if (n >= kHariReformasi) {
@@ -47,6 +48,28 @@ TanggalSipil tanggalDariHari(int64_t n) {
     const int bulan = static_cast<int>(m + 3 - 12 * bagiBawah(m, 10));
     const int64_t tahun = (n >= kHariReformasi ? 100 * abad : 0) + d - 4800 + bagiBawah(m, 10);
     return {tahun, bulan, hari};
+}
+
+// The day number of a civil date, on the same reckonings.
+int64_t hariDariTanggal(int64_t tahun, int bulan, int hari) {
+    const int64_t a = bagiBawah(14 - bulan, 12);
+    const int64_t y = tahun + 4800 - a;
+    const int64_t m = bulan + 12 * a - 3;
+    const int64_t sebelum = hari + bagiBawah(153 * m + 2, 5) + 365 * y + bagiBawah(y, 4);
+    const int64_t gregorius = sebelum - bagiBawah(y, 100) + bagiBawah(y, 400) - 32045 - 1721423;
+    return gregorius >= kHariReformasi ? gregorius : sebelum - 32083 - 1721423;
+}
+
+// A date value of a day number: the civil date with its pasaran and weekday.
+Nilai nilaiTanggal(int64_t n) {
+    const TanggalSipil t = tanggalDariHari(n);
+    int64_t W = n % 7 - 1, P = n % 5 - 1;
+    if (W < 1) W += 7;
+    if (P < 1) P += 5;
+    char bln[8];
+    std::snprintf(bln, sizeof bln, "%02d", t.bulan);
+    return Nilai(std::to_string(t.tahun) + " " + bln + " " + std::to_string(t.hari) + " " + std::to_string(P) + " " +
+                 std::to_string(W) + " 00 00 00 00 1");
 }
 
 std::string gabung(std::initializer_list<std::string_view> bagian) {
@@ -103,15 +126,14 @@ std::optional<Nilai> ClsKesimpulan::ConvertToHijri(int32_t tahun, int32_t bulan,
     if (30 * B > std::numeric_limits<int16_t>::max() || 30 * B < std::numeric_limits<int16_t>::min()) return std::nullopt;
 
     const double N = std::floor(11.0 * H / 30) + 227015 + 354.0 * H + 30.0 * B - std::floor((B - 1) / 2.0) + T - 384;
-    const int64_t n = static_cast<int64_t>(BulatGenap(N));
-    const TanggalSipil t = tanggalDariHari(n);
-    int64_t W = n % 7 - 1, P = n % 5 - 1;
-    if (W < 1) W += 7;
-    if (P < 1) P += 5;
-    char bln[8];
-    std::snprintf(bln, sizeof bln, "%02d", t.bulan);
-    return Nilai(std::to_string(t.tahun) + " " + bln + " " + std::to_string(t.hari) + " " + std::to_string(P) + " " +
-                 std::to_string(W) + " 00 00 00 00 1");
+    return nilaiTanggal(static_cast<int64_t>(BulatGenap(N)));
+}
+
+Nilai ClsKesimpulan::GeserHari(const Nilai& tanggal, int hari) {
+    if (tanggal.kosongTeks()) return tanggal;
+    return nilaiTanggal(hariDariTanggal(AmbilTingkat(tanggal, MedanTahun), AmbilTingkat(tanggal, MedanBulan),
+                                        AmbilTingkat(tanggal, MedanTanggal)) +
+                        hari);
 }
 
 std::optional<Nilai> ClsKesimpulan::CariTHM(int32_t tahun, int32_t bulan, int32_t hari) {

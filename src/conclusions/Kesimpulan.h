@@ -32,6 +32,8 @@ public:
     // A Hijri date on the Masehi calendar (the name is kept: it converts from Hijri), by the
     // arithmetic calendar of the thirty-year cycle; it touches no state.
     static std::optional<Nilai> ConvertToHijri(int32_t tahun, int32_t bulan, int32_t tanggal);
+    // The date value so many days on (back, when negative), with its pasaran and weekday.
+    static Nilai GeserHari(const Nilai& tanggal, int hari);
     // Day of the month of a less that of the Hijri date b on the Masehi calendar.
     static int16_t CekHijriHaqiqi(const Nilai& a, const Nilai& b);
     // A date in words; with bulanHijri the month list's name in front.

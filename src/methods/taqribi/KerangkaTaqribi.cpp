@@ -221,6 +221,7 @@ void KerangkaTaqribi::KesimpulanFR(HasilHitung& h) {
     b.mukts = Hilal(7);
     b.nur = Nur(2);
     b.gurubHariIjtima = data_.gurubHariIjtima;
+    b.malam = malamIjtima();
     b.markaz = data_.markazKesimpulan;
     TulisKesimpulanTaqribi(k_, b, h.kesimpulan, h.ringkasan);
 }

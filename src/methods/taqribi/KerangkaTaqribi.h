@@ -140,6 +140,8 @@ protected:
     virtual Nilai alamahSyahr(const Tabel& syahru) const;
     // The ijtima' as the conclusion reads it: weekday and hours from sunset.
     virtual Nilai ijtimaSejakMaghrib() const { return Ijtima(5); }
+    // Whether the ijtima' falls on the eve of the day named; none: as its clock tells.
+    virtual std::optional<bool> malamIjtima() const { return std::nullopt; }
     // The civil date of the ijtima' (a date value): the day of the Hijri month that falls on
     // the reckoned weekday.
     virtual Nilai hariIjtima();
