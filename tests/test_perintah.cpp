@@ -72,7 +72,7 @@ TEST_F(Perintah, UsageErrorsOfEverySubcommandInOneStyle) {
                "Tahun -5 H di luar jangkauan kitab-kitab ini");
     salahPakai({"semua", "--tahun", "1445", "--bulan", "13"}, "semua", "bulan \"13\" tidak ada");
     salahPakai({"semua", "--tahun", "1445", "--bulan", "8x"}, "semua", "bulan \"8x\" tidak ada");
-    salahPakai({"hisab", "--tahun", "1445", "--bulan", "8"}, "hisab", "pilihan --kitab wajib diisi");
+    salahPakai({"hisab", "--kitab", "SN", "--bulan", "8"}, "hisab", "pilihan --tahun wajib diisi");
     salahPakai({"hisab", "--kitab", "semua", "--tahun", "1445", "--bulan", "8"}, "hisab", "hisab memakai satu kitab");
     salahPakai({"setahun", "--kitab", "ER", "--tahun", "1445"}, "setahun", "kitab Ephemeris belum tersedia");
     salahPakai({"setahun", "--kitab", "SN", "--tahun", "1445", "--tahun", "1446"}, "setahun",

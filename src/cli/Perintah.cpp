@@ -51,12 +51,13 @@ std::string periksaKitab(std::string_view v) {
 // subcommands that take it.
 const std::vector<Opsi>& DaftarOpsi() {
     static const std::vector<Opsi> daftar = {
-        {"--kitab", "KODE", "kitab yang dipakai", periksaKitab},
+        {"--kitab", "KODE", "kitab yang dipakai", periksaKitab, "SN"},
         {"--tahun", "TAHUN", "tahun Hijriyah", periksaTahun},
         {"--bulan", "BULAN", "bulan Hijriyah yang di akhirnya ijtima' dicari (8 Sya'ban: hilal Ramadan)", periksaBulan},
         {.nama = "--markaz", .isian = "NAMA", .keterangan = "tempat dari daftar tempat (huruf besar kecil sama saja)",
          .bawaan = "Pasuruan", .alias = "--tempat"},
         {"--json", "", "keluaran JSON"},
+        {"--xlsx", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .xlsx"},
         {"--batch", "", "operasi satu per baris dari masukan baku"},
         {"--nama", "BARU", "nama baru tempat itu"},
         {"--lintang", "SUDUT", "lintang, mis. \"7 39 LS\" (derajat, menit, LU/LS)"},
@@ -72,11 +73,11 @@ const std::vector<Opsi>& DaftarOpsi() {
 const std::vector<Perintah>& DaftarPerintah() {
     static const std::vector<Perintah> daftar = {
         {"hisab", "", 0, 0,
-         {{"--kitab", Wajib}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}},
+         {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
          "ijtima' dan hilal akhir bulan itu menurut satu kitab: lembar kerja dan kesimpulannya", perintahHisab},
-        {"semua", "", 0, 0, {{"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}},
+        {"semua", "", 0, 0, {{"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
          "ijtima' dan awal bulan menurut semua kitab, satu baris sekitab", perintahSemua},
-        {"setahun", "", 0, 0, {{"--kitab", Wajib}, {"--tahun", Wajib}, {"--markaz"}, {"--json"}},
+        {"setahun", "", 0, 0, {{"--kitab"}, {"--tahun", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
          "dua belas bulan setahun menurut satu kitab (--kitab semua: menurut semua kitab)", perintahSetahun},
         {"tempat daftar", "", 0, 0, {}, "daftar tempat dan berkas yang dipakai", perintahTempatDaftar},
         {"tempat tambah", "NAMA", 1, 1,

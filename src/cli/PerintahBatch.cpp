@@ -10,6 +10,7 @@
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
 #include "run/Workspace.h"
 
 namespace falak::cli {
@@ -88,7 +89,7 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
     out << "\n  ]\n}\n";
 }
 
-using Jalankan = std::function<Workspace::HasilBatch(Workspace&, const std::string& tempat)>;
+using Jalankan = std::function<Workspace::HasilBatch(Workspace&, const std::string& tempat, Workspace::Keluaran)>;
 
 int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalankan& batch) {
     ClsConnection koneksi(l.lokasi);
@@ -97,8 +98,16 @@ int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalan
     const auto tempat = CariTempat(koneksi.Daerah, a.teks("--markaz"));
     if (!tempat)
         throw SalahPakai{"daerah \"" + a.teks("--markaz") + "\" tidak ada di daftar tempat (lihat: falak tempat daftar)"};
-    const Workspace::HasilBatch h = batch(ws, tempat->nama);
+    // Sheets are painted only for a workbook.
+    const Workspace::HasilBatch h =
+        batch(ws, tempat->nama, a.ada("--xlsx") ? Workspace::Keluaran::Lembar : Workspace::Keluaran::Ringkas);
     if (h.pesan) return Tolak(a, l, h.pesan->teks);
+    if (a.ada("--xlsx")) {
+        std::vector<const LembarKerja*> semua;
+        for (const auto& lembar : ws.lembar) semua.push_back(lembar.get());
+        if (const std::string salah = EksporExcel(semua, true, koneksi, a.teks("--xlsx")); !salah.empty())
+            return Tolak(a, l, salah);
+    }
     if (a.ada("--json")) {
         tulisJson(l.out, ws, h.ringkas);
         return 0;
@@ -122,16 +131,16 @@ int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalan
 }  // namespace
 
 int perintahSemua(const Argumen& a, const Lingkungan& l) {
-    return jalankan(a, l, false, [&](Workspace& ws, const std::string& tempat) {
-        return ws.mnuProsesAllSub(a.teks("--tahun"), a.bulat("--bulan"), tempat, Workspace::Keluaran::Ringkas);
+    return jalankan(a, l, false, [&](Workspace& ws, const std::string& tempat, Workspace::Keluaran keluaran) {
+        return ws.mnuProsesAllSub(a.teks("--tahun"), a.bulat("--bulan"), tempat, keluaran);
     });
 }
 
 int perintahSetahun(const Argumen& a, const Lingkungan& l) {
     const std::string kitab = a.teks("--kitab");
-    return jalankan(a, l, true, [&](Workspace& ws, const std::string& tempat) {
-        return kitab == "semua" ? ws.duaBelasBulanSemuaKitab(a.teks("--tahun"), tempat, Workspace::Keluaran::Ringkas)
-                                : ws.mnu12BulanSub(kitab, a.teks("--tahun"), tempat, Workspace::Keluaran::Ringkas);
+    return jalankan(a, l, true, [&](Workspace& ws, const std::string& tempat, Workspace::Keluaran keluaran) {
+        return kitab == "semua" ? ws.duaBelasBulanSemuaKitab(a.teks("--tahun"), tempat, keluaran)
+                                : ws.mnu12BulanSub(kitab, a.teks("--tahun"), tempat, keluaran);
     });
 }
 

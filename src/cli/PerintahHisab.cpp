@@ -8,6 +8,7 @@
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
 #include "run/Workspace.h"
 
 namespace falak::cli {
@@ -59,6 +60,12 @@ int perintahHisab(const Argumen& a, const Lingkungan& l) {
     const auto hasil = ws.mnuProsesIjSub(kitab, a.teks("--tahun"), a.bulat("--bulan"), tempat->nama);
     if (hasil.pesan) return Tolak(a, l, hasil.pesan->teks);
     const LembarKerja& tab = *hasil.lembar;
+    if (a.ada("--xlsx")) {
+        std::vector<const LembarKerja*> semua;
+        for (const auto& lembar : ws.lembar) semua.push_back(lembar.get());
+        if (const std::string salah = EksporExcel(semua, true, koneksi, a.teks("--xlsx")); !salah.empty())
+            return Tolak(a, l, salah);
+    }
     if (a.ada("--json")) {
         tulisJson(l.out, tab, ws.sesi, ws.sesi.tempat);
         return 0;
