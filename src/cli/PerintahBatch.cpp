@@ -7,6 +7,7 @@
 #include "cli/Json.h"
 #include "conclusions/Kesimpulan.h"
 #include "core/Angka.h"
+#include "core/Arah.h"
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
@@ -162,7 +163,7 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
         if (kolomBulan) b.insert(b.begin(), std::string(kBarisBulan[static_cast<size_t>(r.bulan - 1)]).substr(5));
         tabel.push_back(std::move(b));
     }
-    out << "Tempat: " << ws.sesi.tempat.nama << "\n";
+    out << "Tempat: " << IsolasiNama(ws.sesi.tempat.nama) << "\n";
     tulisTabel(out, tabel);
     return 0;
 }
