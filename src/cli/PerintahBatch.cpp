@@ -7,6 +7,7 @@
 #include "cli/Json.h"
 #include "conclusions/Kesimpulan.h"
 #include "core/Angka.h"
+#include "core/Arah.h"
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
@@ -123,7 +124,7 @@ int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalan
         if (kolomBulan) b.insert(b.begin(), std::string(kBarisBulan[static_cast<size_t>(r.bulan - 1)]).substr(5));
         tabel.push_back(std::move(b));
     }
-    l.out << "Tempat: " << ws.sesi.tempat.nama << "\n";
+    l.out << "Tempat: " << IsolasiNama(ws.sesi.tempat.nama) << "\n";
     tulisTabel(l.out, tabel);
     return 0;
 }
