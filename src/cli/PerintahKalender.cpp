@@ -11,47 +11,7 @@
 
 namespace falak::cli {
 
-const char* const kBantuanKalender =
-    "  falak kalender --tahun 2026 [--hijriah] [--kitab SN] [--markaz NAMA] [--json]\n"
-    "                                  kalender setahun (Masehi, atau Hijriah dengan --hijriah):\n"
-    "                                  tanggal Hijriah dan pasaran tiap hari, awal bulan ditandai *\n";
-
 namespace {
-
-struct Pilihan {
-    std::string kitab = "SN";
-    std::string tahun;
-    std::string tempat = "Pasuruan";
-    bool hijriah = false;
-    bool json = false;
-};
-
-bool bacaPilihan(const std::vector<std::string>& argumen, Pilihan& p, std::ostream& err) {
-    for (size_t i = 0; i < argumen.size(); ++i) {
-        const std::string& a = argumen[i];
-        if (a == "--json" || a == "--hijriah") {
-            (a == "--json" ? p.json : p.hijriah) = true;
-            continue;
-        }
-        if (a != "--kitab" && a != "--tahun" && a != "--markaz" && a != "--tempat") {
-            err << "falak kalender: pilihan \"" << a << "\" tidak dikenal\n";
-            return false;
-        }
-        if (i + 1 >= argumen.size()) {
-            err << "falak kalender: " << a << " butuh isian\n";
-            return false;
-        }
-        const std::string& v = argumen[++i];
-        if (a == "--kitab") p.kitab = v;
-        else if (a == "--tahun") p.tahun = v;
-        else p.tempat = v;
-    }
-    if (p.tahun.empty()) {
-        err << "falak kalender: tahunnya belum ada (tulislah misalnya --tahun 2026)\n";
-        return false;
-    }
-    return true;
-}
 
 std::string tanggalIso(const TanggalSipil& t) {
     char b[32];
@@ -133,38 +93,28 @@ std::string teksKalender(const KalenderTahun& k) {
     return s + "Awal bulan:\n" + awal;
 }
 
-int perintahKalender(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                     std::ostream& err) {
-    Pilihan p;
-    if (!bacaPilihan(argumen, p, err)) return 2;
-    if (!CariModul(p.kitab)) {
-        std::string kode;
-        for (const EntriModul* e : Workspace::kitabTerdaftar()) kode += (kode.empty() ? "" : ", ") + std::string(e->kode);
-        err << "falak kalender: kitab \"" << p.kitab << "\" tidak dikenal. Pilihan: " << kode << "\n";
-        return 2;
-    }
-    ClsConnection koneksi(lokasi);
-    err << LaporanMasalah(koneksi.masalah());
-    if (!CariTempat(koneksi.Daerah, p.tempat)) {
-        err << "falak kalender: daerah \"" << p.tempat << "\" tidak ada di daftar tempat (lihat: falak tempat daftar)\n";
-        return 2;
-    }
+int perintahKalender(const Argumen& a, const Lingkungan& l) {
+    ClsConnection koneksi(l.lokasi);
     Workspace ws(koneksi);
-    const HasilKalender h = ProsesKal12(ws, p.kitab, p.tahun, p.hijriah, p.tempat);
+    l.err << LaporanMasalah(ws.masalahTabel());
+    const auto tempat = CariTempat(koneksi.Daerah, a.teks("--markaz"));
+    if (!tempat)
+        throw SalahPakai{"daerah \"" + a.teks("--markaz") + "\" tidak ada di daftar tempat (lihat: falak tempat daftar)"};
+    const HasilKalender h = ProsesKal12(ws, a.teks("--kitab"), a.teks("--tahun"), a.ada("--hijriah"), tempat->nama);
     if (h.pesan) {
-        err << "falak kalender: " << h.pesan->judul << ": " << h.pesan->teks << "\n";
-        return h.masukanSalah ? 2 : 1;
+        if (h.masukanSalah) throw SalahPakai{h.pesan->judul + ": " + h.pesan->teks};
+        return Tolak(a, l, h.pesan->teks);
     }
-    if (p.json) {
-        tulisJson(out, *h.kalender, h, ws.sesi.tempat.nama);
+    if (a.ada("--json")) {
+        tulisJson(l.out, *h.kalender, h, ws.sesi.tempat.nama);
         return 0;
     }
-    out << "KALENDER TAHUN " << h.kalender->tahun << (h.kalender->hijriah ? " H." : " M.") << " - " << h.kitab->nama
-        << ", " << ws.sesi.tempat.nama << "\n"
-        << (h.dariModul ? "Awal bulan menurut hisab kitabnya sendiri." : "Awal bulan menurut hisab kalender (taqribi ringkas).")
-        << " Tiap hari: tanggal " << (h.kalender->hijriah ? "Hijriah/Masehi" : "Masehi/Hijriah")
-        << " dan pasaran; * awal bulan Hijriah.\n\n"
-        << teksKalender(*h.kalender);
+    l.out << "KALENDER TAHUN " << h.kalender->tahun << (h.kalender->hijriah ? " H." : " M.") << " - " << h.kitab->nama
+          << ", " << ws.sesi.tempat.nama << "\n"
+          << (h.dariModul ? "Awal bulan menurut hisab kitabnya sendiri." : "Awal bulan menurut hisab kalender (taqribi ringkas).")
+          << " Tiap hari: tanggal " << (h.kalender->hijriah ? "Hijriah/Masehi" : "Masehi/Hijriah")
+          << " dan pasaran; * awal bulan Hijriah.\n\n"
+          << teksKalender(*h.kalender);
     return 0;
 }
 

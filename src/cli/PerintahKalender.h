@@ -3,20 +3,14 @@
 // grid to read or as JSON.
 #pragma once
 
-#include <iosfwd>
 #include <string>
-#include <vector>
 
 #include "calendar/KalenderTahun.h"
-#include "core/Berkas.h"
+#include "cli/Perintah.h"
 
 namespace falak::cli {
 
-extern const char* const kBantuanKalender;
-
-// Return 0, 1 when the calendar cannot be made, 2 for a command written wrongly.
-int perintahKalender(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                     std::ostream& err);
+int perintahKalender(const Argumen& a, const Lingkungan& l);
 
 // The calendar as the grid that the command prints.
 std::string teksKalender(const KalenderTahun& k);
