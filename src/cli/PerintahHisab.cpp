@@ -9,9 +9,18 @@
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "export/Excel.h"
+#ifdef FALAK_PDF
+#include "export/Cetak.h"
+#endif
 #include "run/Workspace.h"
 
 namespace falak::cli {
+
+#ifdef FALAK_PDF
+const char* const kBantuanPdf = "                                  (--pdf BERKAS: lembar hisab dan kesimpulannya ke berkas .pdf)\n";
+#else
+const char* const kBantuanPdf = "                                  (--pdf BERKAS tidak tersedia: falak ini dibangun tanpa Qt)\n";
+#endif
 
 namespace {
 
@@ -22,6 +31,7 @@ struct Pilihan {
     std::string tempat = "Pasuruan";
     bool json = false;
     std::string xlsx;  // the workbook to write, when asked
+    std::string pdf;   // the printed pages, when asked
 };
 
 std::string daftarKode() {
@@ -74,7 +84,8 @@ int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, st
         };
         const std::string* v = nullptr;
         if (a == "--json") { p.json = true; continue; }
-        if (a != "--kitab" && a != "--tahun" && a != "--bulan" && a != "--markaz" && a != "--tempat" && a != "--xlsx") {
+        if (a != "--kitab" && a != "--tahun" && a != "--bulan" && a != "--markaz" && a != "--tempat" && a != "--xlsx" &&
+            a != "--pdf") {
             err << "falak hisab: pilihan \"" << a << "\" tidak dikenal\n";
             return 2;
         }
@@ -86,6 +97,7 @@ int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, st
         else if (a == "--tahun") p.tahun = *v;
         else if (a == "--bulan") p.bulan = *v;
         else if (a == "--xlsx") p.xlsx = *v;
+        else if (a == "--pdf") p.pdf = *v;
         else p.tempat = *v;
     }
     if (!CariModul(p.kitab)) {
@@ -116,13 +128,24 @@ int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, st
         return 1;
     }
     const LembarKerja& tab = *hasil.lembar;
+    std::vector<const LembarKerja*> semua;
+    for (const auto& l : ws.lembar) semua.push_back(l.get());
     if (!p.xlsx.empty()) {
-        std::vector<const LembarKerja*> semua;
-        for (const auto& l : ws.lembar) semua.push_back(l.get());
         if (const std::string salah = EksporExcel(semua, true, koneksi, p.xlsx); !salah.empty()) {
             err << "falak hisab: " << salah << "\n";
             return 1;
         }
+    }
+    if (!p.pdf.empty()) {
+#ifdef FALAK_PDF
+        if (const std::string salah = CetakPdf(semua, koneksi, p.pdf); !salah.empty()) {
+            err << "falak hisab: " << salah << "\n";
+            return 1;
+        }
+#else
+        err << "falak hisab: --pdf tidak tersedia: falak ini dibangun tanpa Qt\n";
+        return 2;
+#endif
     }
     if (p.json) {
         tulisJson(out, tab, ws.sesi, ws.sesi.tempat);

@@ -7,6 +7,9 @@
 
 namespace falak::cli {
 
+// The help line of --pdf: what it does, or that this build cannot.
+extern const char* const kBantuanPdf;
+
 int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, std::ostream& err);
 
 }  // namespace falak::cli
