@@ -7,18 +7,21 @@
 #include "cli/Json.h"
 #include "conclusions/Kesimpulan.h"
 #include "core/Angka.h"
+#include "core/Arah.h"
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
 #include "run/Workspace.h"
 
 namespace falak::cli {
 
 const char* const kBantuanBatch =
-    "  falak semua --tahun 1445 --bulan 8 [--markaz NAMA] [--json]\n"
+    "  falak semua --tahun 1445 --bulan 8 [--markaz NAMA] [--json] [--xlsx BERKAS]\n"
     "                                  ijtima' dan awal bulan menurut semua kitab\n"
-    "  falak setahun --kitab SN|semua --tahun 1445 [--markaz NAMA] [--json]\n"
-    "                                  dua belas bulan setahun menurut satu kitab (atau semua)\n";
+    "  falak setahun --kitab SN|semua --tahun 1445 [--markaz NAMA] [--json] [--xlsx BERKAS]\n"
+    "                                  dua belas bulan setahun menurut satu kitab (atau semua)\n"
+    "                                  --xlsx: lembar hisab dan kesimpulannya ke berkas .xlsx\n";
 
 namespace {
 
@@ -28,6 +31,7 @@ struct Pilihan {
     std::string bulan;
     std::string tempat = "Pasuruan";
     bool json = false;
+    std::string xlsx;  // the workbook to write, when asked
 };
 
 // Reads the options; a message and false when one is wrong.
@@ -51,6 +55,7 @@ bool bacaPilihan(const std::string& perintah, const std::vector<std::string>& ar
         if (a == "--kitab") p.kitab = v;
         else if (a == "--tahun") p.tahun = v;
         else if (a == "--bulan") p.bulan = v;
+        else if (a == "--xlsx") p.xlsx = v;
         else p.tempat = v;
     }
     if (p.tahun.empty() || !AdalahAngka(p.tahun) || !BulatGenap32(ValAngka(p.tahun)) ||
@@ -79,6 +84,11 @@ std::string tanggalKata(const Nilai& t) {
     return ClsKesimpulan::NamaHari(AmbilTingkat(t, 10), "17", false) + " " + ClsKesimpulan::NamaPas(AmbilTingkat(t, 9)) +
            ", " + std::to_string(AmbilTingkat(t, 8)) + " " + ClsKesimpulan::ManaBln(AmbilTingkat(t, 7)) + " " +
            std::to_string(AmbilTingkat(t, 6));
+}
+
+// The day of the ijtima' in the book's words: "Malam Jum'at Pon, 7 Jun 2024" for its eve.
+std::string hariIjtimaKata(const Ringkasan& g) {
+    return (g.malam && !g.tanggalIjtima.kosongTeks() ? "Malam " : "") + tanggalKata(g.tanggalIjtima);
 }
 
 // The height in degrees and minutes, as the conclusion words it, without the metres.
@@ -116,8 +126,8 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
         const Ringkasan& g = r.ringkasan;
         out << (i ? ",\n" : "\n") << "    {\"kitab\": " << jsonTeks(std::string(r.modul->kode)) << ", \"nama\": " << jsonTeks(std::string(r.modul->nama))
             << ", \"tahun\": " << r.tahun << ", \"bulan\": " << r.bulan << ",\n     \"ijtima\": {\"tanggal\": "
-            << (g.tanggalIjtima.kosongTeks() ? "null" : jsonTeks(tanggalIso(g.tanggalIjtima)))
-            << ", \"hari\": " << jsonTeks(tanggalKata(g.tanggalIjtima)) << ", \"jam\": " << jsonTeks(g.jamIjtima)
+            << (g.tanggalSipil.kosongTeks() ? "null" : jsonTeks(tanggalIso(g.tanggalSipil)))
+            << ", \"hari\": " << jsonTeks(hariIjtimaKata(g)) << ", \"jam\": " << jsonTeks(g.jamIjtima)
             << "},\n     \"tinggi\": {\"nilai\": " << jsonTeks(g.tinggiHilal.teks()) << ", \"derajat\": "
             << CetakAngka((AmbilTanda(g.tinggiHilal) == 0 ? -1 : 1) * NilaiDesimal(3, g.tinggiHilal))
             << ", \"kata\": " << jsonTeks(tinggiKata(g.tinggiHilal)) << "},\n     \"awalBulan\": {\"tanggal\": "
@@ -129,7 +139,7 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
     out << "\n  ]\n}\n";
 }
 
-using Jalankan = std::function<Workspace::HasilBatch(Workspace&)>;
+using Jalankan = std::function<Workspace::HasilBatch(Workspace&, Workspace::Keluaran)>;
 
 int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lokasi, bool kolomBulan,
              const Jalankan& batch, std::ostream& out, std::ostream& err) {
@@ -142,10 +152,20 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
         return 2;
     }
     Workspace ws(koneksi);
-    const Workspace::HasilBatch h = batch(ws);
+    // Sheets are painted only for a workbook.
+    const Workspace::HasilBatch h =
+        batch(ws, p.xlsx.empty() ? Workspace::Keluaran::Ringkas : Workspace::Keluaran::Lembar);
     if (h.pesan) {
         err << h.pesan->judul << ": " << h.pesan->teks << "\n";
         return 1;
+    }
+    if (!p.xlsx.empty()) {
+        std::vector<const LembarKerja*> semua;
+        for (const auto& l : ws.lembar) semua.push_back(l.get());
+        if (const std::string salah = EksporExcel(semua, true, koneksi, p.xlsx); !salah.empty()) {
+            err << "falak " << perintah << ": " << salah << "\n";
+            return 1;
+        }
     }
     if (p.json) {
         tulisJson(out, ws, h.ringkas);
@@ -157,12 +177,12 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
     tabel.push_back(kepala);
     for (const auto& r : h.ringkas) {
         const Ringkasan& g = r.ringkasan;
-        Baris b = {std::string(r.modul->kode), tanggalKata(g.tanggalIjtima), g.jamIjtima, tinggiKata(g.tinggiHilal),
+        Baris b = {std::string(r.modul->kode), hariIjtimaKata(g), g.jamIjtima, tinggiKata(g.tinggiHilal),
                    tanggalKata(g.awalBulan)};
         if (kolomBulan) b.insert(b.begin(), std::string(kBarisBulan[static_cast<size_t>(r.bulan - 1)]).substr(5));
         tabel.push_back(std::move(b));
     }
-    out << "Tempat: " << ws.sesi.tempat.nama << "\n";
+    out << "Tempat: " << IsolasiNama(ws.sesi.tempat.nama) << "\n";
     tulisTabel(out, tabel);
     return 0;
 }
@@ -172,16 +192,15 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
 int perintahSemua(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
                   std::ostream& err) {
     Pilihan p;
-    if (!bacaPilihan("semua", argumen, {"--tahun", "--bulan", "--markaz", "--tempat"}, p, err)) return 2;
+    if (!bacaPilihan("semua", argumen, {"--tahun", "--bulan", "--markaz", "--tempat", "--xlsx"}, p, err)) return 2;
     const double bulan = ValAngka(p.bulan);
     if (!AdalahAngka(p.bulan) || bulan != BulatGenap(bulan) || bulan < 1 || bulan > 12) {
         err << "falak semua: bulan \"" << p.bulan << "\" tidak ada; pilihlah 1 sampai 12 (1 Muharrom ... 12 Dzulhijjah)\n";
         return 2;
     }
     return jalankan("semua", p, lokasi, false,
-                    [&](Workspace& ws) {
-                        return ws.mnuProsesAllSub(p.tahun, static_cast<int>(bulan), p.tempat,
-                                                  Workspace::Keluaran::Ringkas);
+                    [&](Workspace& ws, Workspace::Keluaran keluaran) {
+                        return ws.mnuProsesAllSub(p.tahun, static_cast<int>(bulan), p.tempat, keluaran);
                     },
                     out, err);
 }
@@ -190,7 +209,7 @@ int perintahSetahun(const std::vector<std::string>& argumen, const LokasiData& l
                     std::ostream& err) {
     Pilihan p;
     p.kitab = "SN";
-    if (!bacaPilihan("setahun", argumen, {"--kitab", "--tahun", "--markaz", "--tempat"}, p, err)) return 2;
+    if (!bacaPilihan("setahun", argumen, {"--kitab", "--tahun", "--markaz", "--tempat", "--xlsx"}, p, err)) return 2;
     const bool semua = p.kitab == "semua";
     if (!semua && !CariModul(p.kitab)) {
         std::string daftar;
@@ -199,9 +218,9 @@ int perintahSetahun(const std::vector<std::string>& argumen, const LokasiData& l
         return 2;
     }
     return jalankan("setahun", p, lokasi, true,
-                    [&](Workspace& ws) {
-                        return semua ? ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat, Workspace::Keluaran::Ringkas)
-                                     : ws.mnu12BulanSub(p.kitab, p.tahun, p.tempat, Workspace::Keluaran::Ringkas);
+                    [&](Workspace& ws, Workspace::Keluaran keluaran) {
+                        return semua ? ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat, keluaran)
+                                     : ws.mnu12BulanSub(p.kitab, p.tahun, p.tempat, keluaran);
                     },
                     out, err);
 }
