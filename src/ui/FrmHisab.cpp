@@ -75,7 +75,7 @@ FrmHisab::FrmHisab(const LokasiData& lokasi, QWidget* induk)
       pekerja_(std::make_unique<Pekerja>(ws_->kemajuan)) {
     setObjectName("FrmHisab");
     setWindowTitle(QStringLiteral("falak - Hisab Awal Bulan"));
-    laporanTabel_ = q(LaporanMasalah(koneksi_->masalah())).trimmed();
+    laporanTabel_ = q(LaporanMasalah(ws_->masalahTabel())).trimmed();
     buatTampilan();
     buatMenu();
     isiPohon();
