@@ -5,6 +5,7 @@
 
 #include "cli/Kalkulator.h"
 #include "cli/PerintahBatch.h"
+#include "cli/PerintahGerhana.h"
 #include "cli/PerintahHisab.h"
 #include "cli/PerintahTempat.h"
 
@@ -19,7 +20,7 @@ const std::string kBantuan =
                 "  falak hisab --kitab SN --tahun 1445 --bulan 8 [--markaz NAMA] [--json]\n"
                 "                                  ijtima' dan hilal akhir bulan itu menurut satu kitab\n"
                 "                                  (kitab: SN, FR, IDB1, SH, TZ, KW1, FK)\n") +
-    falak::cli::kBantuanBatch +
+    falak::cli::kBantuanBatch + falak::cli::kBantuanGerhana +
     falak::cli::kBantuanTempat;
 
 }  // namespace
@@ -36,6 +37,7 @@ int main(int argc, char** argv) {
     if (perintah == "hisab") return falak::cli::perintahHisab(argumen, std::cout, std::cerr);
     if (perintah == "semua") return falak::cli::perintahSemua(argumen, falak::CariLokasiData(), std::cout, std::cerr);
     if (perintah == "setahun") return falak::cli::perintahSetahun(argumen, falak::CariLokasiData(), std::cout, std::cerr);
+    if (perintah == "gerhana") return falak::cli::perintahGerhana(argumen, falak::CariLokasiData(), std::cout, std::cerr);
     if (perintah == "tempat") return falak::cli::perintahTempat(argumen, falak::CariLokasiData(), std::cout, std::cerr);
     std::cerr << "falak: perintah \"" << perintah << "\" tidak dikenal\n\n" << kBantuan;
     return 2;

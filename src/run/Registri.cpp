@@ -1,5 +1,6 @@
 #include "run/Registri.h"
 
+#include "eclipse/lunar/KhusufSullam.h"
 #include "methods/taqribi/FaidlulKarim.h"
 #include "methods/taqribi/FathurRouf.h"
 #include "methods/taqribi/IttifaqDzatilBain.h"
@@ -55,7 +56,8 @@ const std::vector<EntriModul>& DaftarModul() {
          nullptr},
         {"IM", Ij, 45, "IjIM_", "Irsyadu al-Murid", "Irsyadu al-Murid", Tahqiqi, {}, nullptr},
         {"ER", Ij, 48, "IjER_", "Ephemeris", "Ephemeris", Tahqiqi, {}, nullptr},
-        {"SN", Hs, 3, "HsSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi, {}, nullptr},
+        {"SN", Hs, 3, "HsSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi,
+         tabelBulan({"TRBSyahru", "TRBTaadil"}), buat<KhusufSullam>},
         {"FR", Hs, 7, "HsFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},
         {"IDB1", Hs, 12, "HsIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi, {},
          nullptr},

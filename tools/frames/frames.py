@@ -169,6 +169,50 @@ def syamsul_hilal():
     return f
 
 
+def khusuf_sullam():
+    """Sullam al-Nairoin's lunar eclipse: a grid of 58 rows by 40; the values written by the run
+    at the columns below (the right block at 37, the look-ups at 19 and at 9)."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    # The last cell is the auj, as in the book's month reckoning.
+    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", "الأوج"])
+    kanan = [
+        "تعديل الخاصة", "تعديل المركز", "المجموع", "الحاصل", "تعديل المركز", "تعديل القمر",
+        "المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس", "تقويم القمر",
+        "تعديل القمر", "دقائق تعديل الأيام", "الباقي", "حصة الساعة", "ساعات البعد",
+        "العلامة", "ساعات البعد", "الاستقبال بالمركز", "الحصة", "دقائق الحصة", "حصة الساعة", "ساعات الحصة",
+        "الاستقبال", "الاستقبال المعدل", "فضل الطولين", "وسط الخسوف ببلد",
+        "ساعات البعد", "الحاصل", "تعديل المركز", "المجموع", "الحصة", "المجموع", "الحصة المعدلة",
+        "ساعات البعد", "الحاصل", "الخاصة", "الخاصة المعدلة",
+        "وسط الخسوف", "نصف مدة الخسوف", "أول الخسوف", "آخر الخسوف", "مدة الخسوف",
+        "وسط الخسوف", "نصف مدة المكث", "أول المكث", "آخر المكث", "مدة المكث",
+    ]  # fmt: skip
+    for i, teks in enumerate(kanan):
+        label(teks, 8 + i, 38)
+    lima = ["المدخل", "السطر", "السطر التالي", "الفضل", "المعدل"]
+    blok = [(8, "تعديل الخاصة", 11, 19, 20, 27), (8, "تعديل المركز", 1, 9, 10, 10),
+            (16, "حصة الساعة", 11, 19, 20, 27), (16, "دقائق تعديل الأيام", 1, 9, 10, 10),
+            (24, "عرض القمر", 11, 19, 20, 27), (24, "العرض المعدل", 1, 9, 10, 10),
+            (32, "البهت", 11, 19, 20, 27)]
+    for baris, judul, k1, k2, l1, l2 in blok:
+        label(judul, baris, k1, k2)
+        for i, teks in enumerate(lima):
+            label(teks, baris + 1 + i, l1, l2)
+    # The double look-ups: two entries and their term in the latitude, the value at the row of
+    # the daily motion, the same one row on, their difference, its term and the result.
+    ganda = ["السطر", "السطر التالي", "الفضل", "المعدل", "السطر الثاني", "التالي", "الفضل", "المعدل",
+             "الفضل بين المعدلين", "الفضل", "الحاصل"]
+    for baris, judul, k1, k2, l1, l2 in [(40, "الأصابع", 11, 19, 20, 27), (32, "نصف مدة الخسوف", 1, 9, 10, 10),
+                                         (46, "نصف مدة المكث", 1, 9, 10, 10)]:
+        label(judul, baris, k1, k2)
+        for i, teks in enumerate(ganda):
+            label(teks, baris + 1 + i, l1, l2)
+    return f
+
+
 # The labels of the conclusion lines, read by position (the line writers name the position).
 LABEL = [
     "Awal bulan sesudah ",        # 0  first of the month, after the chosen month's name
@@ -228,6 +272,7 @@ def main():
         "KW1": fathur(sel=4, latitude=False),
         "FK": fathur(waktu=True),
         "SH": syamsul_hilal(),
+        "SNGB": khusuf_sullam(),
     }
     panjang = max(len(v) for v in frames.values())
     kolom = [f"{nama}{x}" for x in frames for nama in ("Nama", "Baris", "Kolom1", "Kolom2")]
