@@ -81,6 +81,11 @@ std::string tanggalKata(const Nilai& t) {
            std::to_string(AmbilTingkat(t, 6));
 }
 
+// The day of the ijtima' in the book's words: "Malam Jum'at Pon, 7 Jun 2024" for its eve.
+std::string hariIjtimaKata(const Ringkasan& g) {
+    return (g.malam && !g.tanggalIjtima.kosongTeks() ? "Malam " : "") + tanggalKata(g.tanggalIjtima);
+}
+
 // The height in degrees and minutes, as the conclusion words it, without the metres.
 std::string tinggiKata(const Nilai& tinggi) {
     const std::string s = ClsKesimpulan::IrtifaHilal(tinggi, true);
@@ -116,8 +121,8 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
         const Ringkasan& g = r.ringkasan;
         out << (i ? ",\n" : "\n") << "    {\"kitab\": " << jsonTeks(std::string(r.modul->kode)) << ", \"nama\": " << jsonTeks(std::string(r.modul->nama))
             << ", \"tahun\": " << r.tahun << ", \"bulan\": " << r.bulan << ",\n     \"ijtima\": {\"tanggal\": "
-            << (g.tanggalIjtima.kosongTeks() ? "null" : jsonTeks(tanggalIso(g.tanggalIjtima)))
-            << ", \"hari\": " << jsonTeks(tanggalKata(g.tanggalIjtima)) << ", \"jam\": " << jsonTeks(g.jamIjtima)
+            << (g.tanggalSipil.kosongTeks() ? "null" : jsonTeks(tanggalIso(g.tanggalSipil)))
+            << ", \"hari\": " << jsonTeks(hariIjtimaKata(g)) << ", \"jam\": " << jsonTeks(g.jamIjtima)
             << "},\n     \"tinggi\": {\"nilai\": " << jsonTeks(g.tinggiHilal.teks()) << ", \"derajat\": "
             << CetakAngka((AmbilTanda(g.tinggiHilal) == 0 ? -1 : 1) * NilaiDesimal(3, g.tinggiHilal))
             << ", \"kata\": " << jsonTeks(tinggiKata(g.tinggiHilal)) << "},\n     \"awalBulan\": {\"tanggal\": "
@@ -157,7 +162,7 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
     tabel.push_back(kepala);
     for (const auto& r : h.ringkas) {
         const Ringkasan& g = r.ringkasan;
-        Baris b = {std::string(r.modul->kode), tanggalKata(g.tanggalIjtima), g.jamIjtima, tinggiKata(g.tinggiHilal),
+        Baris b = {std::string(r.modul->kode), hariIjtimaKata(g), g.jamIjtima, tinggiKata(g.tinggiHilal),
                    tanggalKata(g.awalBulan)};
         if (kolomBulan) b.insert(b.begin(), std::string(kBarisBulan[static_cast<size_t>(r.bulan - 1)]).substr(5));
         tabel.push_back(std::move(b));

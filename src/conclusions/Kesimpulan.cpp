@@ -15,19 +15,62 @@ namespace falak {
 
 namespace {
 
-// Months 12 of these years of the thirty-year cycle have 30 days (15, not 16: kept).
-constexpr std::array<int, 11> kTahunKabisat = {2, 5, 7, 10, 13, 15, 18, 21, 24, 26, 29};
+// The first of the seven days in which a reckoned weekday is sought.
+constexpr int32_t kHariCariAwal = 27;
 
-bool kabisatMasehi(int64_t y) { return (y % 100 != 0 && y % 4 == 0) || y % 400 == 0; }
+int64_t bagiBawah(int64_t a, int64_t b) { return a / b - ((a % b != 0 && (a < 0) != (b < 0)) ? 1 : 0); }
 
-int umurBulanHijri(int32_t tahun, int32_t bulan) {
-    if (bulan == 12) {
-        const int sisa = tahun % 30;
-        for (int k : kTahunKabisat)
-            if (k == sisa) return 30;
-        return 29;
+struct TanggalSipil {
+    int64_t tahun;
+    int bulan;
+    int hari;
+};
+
+// The civil date of a day number (day 1 is 1 January of the year 1 on the Julian reckoning):
+// Julian up to 4 October 1582, Gregorian from the next day, 15 October, as the reform counts
+// them. The weekday and the pasaran run on the day number itself, so the date has to come
+// from the same count: a date and a weekday that disagree name two different days.
+constexpr int64_t kHariReformasi = 577738;  // 15 October 1582
+
+TanggalSipil tanggalDariHari(int64_t n) {
+    int64_t c;
+    int64_t abad = 0;
+    if (n >= kHariReformasi) {
+        const int64_t a = n + 1721423 + 32044;
+        abad = bagiBawah(4 * a + 3, 146097);
+        c = a - bagiBawah(146097 * abad, 4);
+    } else {
+        c = n + 1721423 + 32082;
     }
-    return bulan % 2 != 0 ? 30 : 29;
+    const int64_t d = bagiBawah(4 * c + 3, 1461);
+    const int64_t e = c - bagiBawah(1461 * d, 4);
+    const int64_t m = bagiBawah(5 * e + 2, 153);
+    const int hari = static_cast<int>(e - bagiBawah(153 * m + 2, 5) + 1);
+    const int bulan = static_cast<int>(m + 3 - 12 * bagiBawah(m, 10));
+    const int64_t tahun = (n >= kHariReformasi ? 100 * abad : 0) + d - 4800 + bagiBawah(m, 10);
+    return {tahun, bulan, hari};
+}
+
+// The day number of a civil date, on the same reckonings.
+int64_t hariDariTanggal(int64_t tahun, int bulan, int hari) {
+    const int64_t a = bagiBawah(14 - bulan, 12);
+    const int64_t y = tahun + 4800 - a;
+    const int64_t m = bulan + 12 * a - 3;
+    const int64_t sebelum = hari + bagiBawah(153 * m + 2, 5) + 365 * y + bagiBawah(y, 4);
+    const int64_t gregorius = sebelum - bagiBawah(y, 100) + bagiBawah(y, 400) - 32045 - 1721423;
+    return gregorius >= kHariReformasi ? gregorius : sebelum - 32083 - 1721423;
+}
+
+// A date value of a day number: the civil date with its pasaran and weekday.
+Nilai nilaiTanggal(int64_t n) {
+    const TanggalSipil t = tanggalDariHari(n);
+    int64_t W = n % 7 - 1, P = n % 5 - 1;
+    if (W < 1) W += 7;
+    if (P < 1) P += 5;
+    char bln[8];
+    std::snprintf(bln, sizeof bln, "%02d", t.bulan);
+    return Nilai(std::to_string(t.tahun) + " " + bln + " " + std::to_string(t.hari) + " " + std::to_string(P) + " " +
+                 std::to_string(W) + " 00 00 00 00 1");
 }
 
 std::string gabung(std::initializer_list<std::string_view> bagian) {
@@ -47,7 +90,7 @@ std::string rapikan(std::string s) {
 }
 
 // "The value without field 1, as decimal degrees".
-double tanpaBuruj(const Nilai& v) { return NilaiDesimal(3, NolkanBuruj(v)); }
+double tanpaBuruj(const Nilai& v) { return NilaiDesimal(JenisBusur, NolkanBuruj(v)); }
 
 // The sign of the equation of time by the civil calendar: negative in these stretches.
 bool tafawutNegatif(int bulan, int hari) {
@@ -65,10 +108,13 @@ constexpr std::array<const char*, 12> kKolomTafawut = {"Jan", "Peb", "Mar", "Apr
                                                        "juli", "Agus", "Sept", "Okt", "Nop", "Des"};
 
 // A time as an arc value of hours (Darojah), minutes, seconds, and back.
-Nilai jamKeNilai(const Waktu& w) { return DlorbuSittin(0, 0, 0, std::llabs(w.detik()), 0, w.detik() < 0 ? 0 : 1, 3); }
+Nilai jamKeNilai(const Waktu& w) {
+    return DlorbuSittin(0, 0, 0, std::llabs(w.detik()), 0, w.detik() < 0 ? 0 : 1, ModusDarojah);
+}
 
 Waktu nilaiKeJam(const Nilai& v) {
-    const int64_t detik = int64_t{AmbilTingkat(v, 2)} * 3600 + AmbilTingkat(v, 3) * 60 + AmbilTingkat(v, 4);
+    const int64_t detik = int64_t{AmbilTingkat(v, MedanDarojah)} * 3600 + AmbilTingkat(v, MedanDaqiqoh) * 60 +
+                          AmbilTingkat(v, MedanTsaniyah);
     return Waktu::dari(0, 0, AmbilTanda(v) == 0 ? -detik : detik);
 }
 
@@ -81,69 +127,34 @@ std::optional<Nilai> ClsKesimpulan::ConvertToHijri(int32_t tahun, int32_t bulan,
     if (30 * B > std::numeric_limits<int16_t>::max() || 30 * B < std::numeric_limits<int16_t>::min()) return std::nullopt;
 
     const double N = std::floor(11.0 * H / 30) + 227015 + 354.0 * H + 30.0 * B - std::floor((B - 1) / 2.0) + T - 384;
-    const double Q = std::floor(N / 1461);
-    double Y = 4 * Q;
-    const double R = N - 1461 * Q;
-    const double A = std::floor(R / 365);
-    Y = Y + A + 1;
-    double D = R - 365 * A;
-    double C = 0;
-    if (Y > 1582 || (Y == 1582 && D > 287)) C = 2 - std::floor(Y / 100) + std::floor(std::floor(Y / 100) / 4);
-    int64_t y = static_cast<int64_t>(BulatGenap(Y));
-    int64_t K = kabisatMasehi(y) ? 1 : 0;
-    D = D - C;
-    if (D >= 365 + K) {
-        y += static_cast<int64_t>(std::floor(D / static_cast<double>(365 + K)));
-        D = static_cast<double>(static_cast<int64_t>(BulatGenap(D)) % (365 + K));
-        K = kabisatMasehi(y) ? 1 : 0;
-    }
-    static constexpr int kBatas[12] = {31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
-    int bulanMasehi = 12;
-    double hari = D;
-    for (int i = 0; i < 12; ++i) {
-        const double batas = kBatas[i] + (i == 0 ? 0 : K);
-        if (D <= batas) {
-            bulanMasehi = i + 1;
-            hari = D - (i == 0 ? 0 : kBatas[i - 1] + (i == 1 ? 0 : K));
-            break;
-        }
-    }
-    const int64_t n = static_cast<int64_t>(BulatGenap(N));
-    int64_t W = n % 7 - 1, P = n % 5 - 1;
-    if (W < 1) W += 7;
-    if (P < 1) P += 5;
-    char bln[8];
-    std::snprintf(bln, sizeof bln, "%02d", bulanMasehi);
-    return Nilai(std::to_string(y) + " " + bln + " " + std::to_string(static_cast<int64_t>(BulatGenap(hari))) + " " +
-                 std::to_string(P) + " " + std::to_string(W) + " 00 00 00 00 1");
+    return nilaiTanggal(static_cast<int64_t>(BulatGenap(N)));
+}
+
+Nilai ClsKesimpulan::GeserHari(const Nilai& tanggal, int hari) {
+    if (tanggal.kosongTeks()) return tanggal;
+    return nilaiTanggal(hariDariTanggal(AmbilTingkat(tanggal, MedanTahun), AmbilTingkat(tanggal, MedanBulan),
+                                        AmbilTingkat(tanggal, MedanTanggal)) +
+                        hari);
 }
 
 std::optional<Nilai> ClsKesimpulan::CariTHM(int32_t tahun, int32_t bulan, int32_t hari) {
     auto minggu = [](int w) { return w == 0 ? 7 : w; };
     const int dicari = minggu(hari);
-    const auto akhir = ConvertToHijri(tahun, bulan, umurBulanHijri(tahun, bulan));
-    if (!akhir) return std::nullopt;
-    if (minggu(AmbilTingkat(*akhir, 10)) == dicari) return akhir;
-    for (int i = 25; i <= 34; ++i) {
-        int32_t m = bulan + 12, y = tahun - 1, d = i;
-        if (d > 30) {
-            d -= 30;
-            m += 1;
-        }
-        if (m > 12) {
-            m -= 12;
-            y += 1;
-        }
-        const auto t = ConvertToHijri(y, m, d);
+    // The ijtima' that ends a month falls, on the day counted from sunset, between the 28th
+    // and the 2nd of the next month of this calendar wherever the books are used: seven days
+    // from the 27th hold each weekday once, and the day count runs on past the month's end.
+    for (int32_t i = kHariCariAwal; i < kHariCariAwal + 7; ++i) {
+        const auto t = ConvertToHijri(tahun, bulan, i);
         if (!t) return std::nullopt;
-        if (minggu(AmbilTingkat(*t, 10)) == dicari) return t;
+        if (minggu(AmbilTingkat(*t, MedanHari)) == dicari) return t;
     }
     return Nilai();
 }
 
 int16_t ClsKesimpulan::CekHijriHaqiqi(const Nilai& a, const Nilai& b) {
-    const auto t = ConvertToHijri(AmbilTingkat(b, 6), AmbilTingkat(b, 7), AmbilTingkat(b, 8));
-    return static_cast<int16_t>(AmbilTingkat(a, 8) - (t ? AmbilTingkat(*t, 8) : 0));
+    const auto t =
+        ConvertToHijri(AmbilTingkat(b, MedanTahun), AmbilTingkat(b, MedanBulan), AmbilTingkat(b, MedanTanggal));
+    return static_cast<int16_t>(AmbilTingkat(a, MedanTanggal) - (t ? AmbilTingkat(*t, MedanTanggal) : 0));
 }
 
 std::string ClsKesimpulan::FullM(const Nilai& tanggal, std::string_view jam, bool bulanHijri) const {
@@ -152,11 +163,11 @@ std::string ClsKesimpulan::FullM(const Nilai& tanggal, std::string_view jam, boo
         const std::string baris = kBarisBulan[static_cast<size_t>(sesi_.barisBulan % 12)];
         bulan = (baris.size() > 4 ? baris.substr(4) : std::string()) + " :";
     }
-    const std::string hari = NamaHari(AmbilTingkat(tanggal, 10), jam, bulanHijri);
-    const std::string pasaran = NamaPas(AmbilTingkat(tanggal, 9)) + ",";
-    const std::string tgl = std::to_string(AmbilTingkat(tanggal, 8));
-    const std::string tahun = std::to_string(AmbilTingkat(tanggal, 6)) + " M.";
-    return rapikan(gabung({bulan, hari, pasaran, tgl, ManaBln(AmbilTingkat(tanggal, 7)), tahun}));
+    const std::string hari = NamaHari(AmbilTingkat(tanggal, MedanHari), jam, bulanHijri);
+    const std::string pasaran = NamaPas(AmbilTingkat(tanggal, MedanPasaran)) + ",";
+    const std::string tgl = std::to_string(AmbilTingkat(tanggal, MedanTanggal));
+    const std::string tahun = std::to_string(AmbilTingkat(tanggal, MedanTahun)) + " M.";
+    return rapikan(gabung({bulan, hari, pasaran, tgl, ManaBln(AmbilTingkat(tanggal, MedanBulan)), tahun}));
 }
 
 std::string ClsKesimpulan::NamaHari(int hari, std::string_view jam, bool bendera) {
@@ -196,14 +207,18 @@ Waktu ClsKesimpulan::keZona(int bulan, int hari, Waktu waktu) const {
     const int detik = BacaBulat(tabel, kolom + "2");
 
     const Tempat& t = sesi_.tempat;
-    const Nilai bujur = DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), 3);
-    const Nilai selisih = KurangNilai(3, 3, 3, DlorbuSittin(0, 105, 0, 0, 0, 1, 3), bujur);
-    const Nilai jamBujur = BagiNilai(3, 3, 3, selisih, DlorbuSittin(0, 15, 0, 0, 0, 1, 3)).value_or(selisih);
-    const Nilai zona = DlorbuSittin(0, std::abs(t.zona - 7), 0, 0, 0, t.zona < 7 ? 0 : 1, 3);
-    const Nilai tafawut = DlorbuSittin(0, 0, menit, detik, 0, tafawutNegatif(bulan, hari) ? 0 : 1, 3);
+    const Nilai bujur =
+        DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), ModusDarojah);
+    const Nilai selisih =
+        KurangNilai(JenisBusur, TandaIkut, ModusDarojah, DlorbuSittin(0, 105, 0, 0, 0, 1, ModusDarojah), bujur);
+    const Nilai jamBujur =
+        BagiNilai(JenisBusur, TandaIkut, ModusDarojah, selisih, DlorbuSittin(0, 15, 0, 0, 0, 1, ModusDarojah))
+            .value_or(selisih);
+    const Nilai zona = DlorbuSittin(0, std::abs(t.zona - 7), 0, 0, 0, t.zona < 7 ? 0 : 1, ModusDarojah);
+    const Nilai tafawut = DlorbuSittin(0, 0, menit, detik, 0, tafawutNegatif(bulan, hari) ? 0 : 1, ModusDarojah);
 
-    Nilai hasil = KurangNilai(3, 3, 3, jamKeNilai(waktu), tafawut);
-    hasil = TambahNilai(3, 3, 3, hasil, jamBujur, zona);
+    Nilai hasil = KurangNilai(JenisBusur, TandaIkut, ModusDarojah, jamKeNilai(waktu), tafawut);
+    hasil = TambahNilai(JenisBusur, TandaIkut, ModusDarojah, hasil, jamBujur, zona);
     return nilaiKeJam(hasil);
 }
 
@@ -218,7 +233,7 @@ std::string ClsKesimpulan::kataZona() const {
 
 std::string ClsKesimpulan::JamIjtima(std::string_view jam, std::string_view menit, const Nilai& tanggal) {
     const Waktu t = Waktu::dari(static_cast<int64_t>(ValAngka(jam)), static_cast<int64_t>(ValAngka(menit)), 0);
-    const Waktu z = keZona(AmbilTingkat(tanggal, 7), AmbilTingkat(tanggal, 8), t);
+    const Waktu z = keZona(AmbilTingkat(tanggal, MedanBulan), AmbilTingkat(tanggal, MedanTanggal), t);
     return rapikan(gabung({t.format("hh.mm") + " WIS, ", z.format("hh.mm"), kataZona()}));
 }
 
@@ -229,24 +244,25 @@ std::string ClsKesimpulan::JamIjtimaTQQ(std::string_view waktuWis, std::string_v
 
 std::string ClsKesimpulan::SaatuMaghribS(const Nilai& matahari) {
     const Nilai nol("00 00 00 00 00 1");
-    const Nilai x = TrigNilai(1, 1, matahari, false).value_or(nol);
-    const Nilai y = KaliNilai(3, 3, 1, x, Nilai("0 0 23 52 0 1")).value_or(nol);
-    const Nilai v = HitungDeret(3, 1, 1, y, 0, nol, 0, nol, 0, nol, 0, nol).value_or(nol);
-    const int menit = AmbilTingkat(v, 3) + AmbilTingkat(v, 4) / 60;
-    std::string out = std::to_string(AmbilTingkat(v, 2)) + "°";
+    const Nilai x = TrigNilai(1, ModusBuruj, matahari, false).value_or(nol);
+    const Nilai y = KaliNilai(JenisBusur, TandaIkut, ModusBuruj, x, Nilai("0 0 23 52 0 1")).value_or(nol);
+    const Nilai v = HitungDeret(TandaIkut, ModusBuruj, 1, y, 0, nol, 0, nol, 0, nol, 0, nol).value_or(nol);
+    const int menit = AmbilTingkat(v, MedanDaqiqoh) + AmbilTingkat(v, MedanTsaniyah) / 60;
+    std::string out = std::to_string(AmbilTingkat(v, MedanDarojah)) + "°";
     if (menit != 0) out += std::to_string(menit) + "'";
     return out + (AmbilTanda(v) != 0 ? " Di sebelah utara titik barat" : " Di sebelah selatan titik barat");
 }
 
 std::string ClsKesimpulan::AzimutSQ(const Nilai& azimut) {
-    std::string out = std::to_string(AmbilTingkat(azimut, 2)) + "°";
-    if (AmbilTingkat(azimut, 3) != 0) out += std::to_string(AmbilTingkat(azimut, 3)) + "'";
+    std::string out = std::to_string(AmbilTingkat(azimut, MedanDarojah)) + "°";
+    if (AmbilTingkat(azimut, MedanDaqiqoh) != 0) out += std::to_string(AmbilTingkat(azimut, MedanDaqiqoh)) + "'";
     return out + (AmbilTanda(azimut) != 0 ? " Di sebelah utara titik barat" : " Di sebelah selatan titik barat");
 }
 
 std::string ClsKesimpulan::Kemiringan(const Nilai& a, const Nilai& b, const Nilai& c, const Nilai& d) {
     if (a.teks() == b.teks()) return "Terlentang";
-    const double p0 = NilaiDesimal(3, a), p1 = NilaiDesimal(3, b), p2 = NilaiDesimal(3, c), p3 = NilaiDesimal(3, d);
+    const double p0 = NilaiDesimal(JenisBusur, a), p1 = NilaiDesimal(JenisBusur, b), p2 = NilaiDesimal(JenisBusur, c),
+                 p3 = NilaiDesimal(JenisBusur, d);
     if (!(2 * p3 > p2)) return "Tegak lurus";
     const int s = AmbilTanda(a);
     if (BulatGenap(p0) > BulatGenap(p1) && AmbilTanda(a) == AmbilTanda(b))
@@ -257,9 +273,9 @@ std::string ClsKesimpulan::Kemiringan(const Nilai& a, const Nilai& b, const Nila
 std::string ClsKesimpulan::IrtifaHilal(const Nilai& tinggi, bool bertanda) {
     const int g = bertanda ? AmbilTanda(tinggi) : 1;
     const std::string meter = FormatTetap(tanpaBuruj(tinggi) * 0.72, 2) + " m";
-    const int m = AmbilTingkat(tinggi, 3) + AmbilTingkat(tinggi, 4) / 30;
+    const int m = AmbilTingkat(tinggi, MedanDaqiqoh) + AmbilTingkat(tinggi, MedanTsaniyah) / 30;
     std::string menit = m == 0 ? "" : std::to_string(m) + "'";
-    int derajat = AmbilTingkat(tinggi, 2);
+    int derajat = AmbilTingkat(tinggi, MedanDarojah);
     if (menit == "60'") {
         menit.clear();
         derajat += 1;
@@ -269,13 +285,13 @@ std::string ClsKesimpulan::IrtifaHilal(const Nilai& tinggi, bool bertanda) {
 }
 
 std::string ClsKesimpulan::ArahHilal(const Nilai& tempatHilal) {
-    const double x = NilaiDesimal(3, tempatHilal);
+    const double x = NilaiDesimal(JenisBusur, tempatHilal);
     const double phi = sesi_.tempat.lintangDerajat + sesi_.tempat.lintangMenit / 60.0;
     return (x - 180 < phi || x > 360 - phi) ? " Di utara" : " Di selatan";
 }
 
 std::string ClsKesimpulan::KeadaanHilal(const Nilai& matahari) {
-    const int b = AmbilTingkat(matahari, 1);
+    const int b = AmbilTingkat(matahari, MedanBuruj);
     const double d = tanpaBuruj(matahari);
     const char* c1 = ((b == 11 || b == 5) && d > 26) ? "1" : "2";
     const char* c2 = ((b == 0 || b == 6) && d < 6) ? "1" : "2";
@@ -286,17 +302,18 @@ std::string ClsKesimpulan::KeadaanHilal(const Nilai& matahari) {
 
 std::string ClsKesimpulan::MuktsulHilal(const Nilai& lama) {
     if (AmbilTanda(lama) == 0) return "00.00 Menit";
-    const Waktu w = Waktu::dari(AmbilTingkat(lama, 2), AmbilTingkat(lama, 3), AmbilTingkat(lama, 4));
+    const Waktu w = Waktu::dari(AmbilTingkat(lama, MedanDarojah), AmbilTingkat(lama, MedanDaqiqoh),
+                                AmbilTingkat(lama, MedanTsaniyah));
     const std::string out = w.format("hh.mm") + " Menit";
     return out == "00.00 Menit" ? w.format("hh.mm.ss") + " Menit" : out;
 }
 
 Waktu ClsKesimpulan::WaktuGurub(const Nilai& matahari, std::string& gurub, std::string& terbit) {
     // Field 2 and 3 of the sun's place are its sign and the degree within it.
-    const int derajat = AmbilTingkat(matahari, 2) * 30 + AmbilTingkat(matahari, 3);
+    const int derajat = AmbilTingkat(matahari, MedanDarojah) * 30 + AmbilTingkat(matahari, MedanDaqiqoh);
     const SaatMatahari saat = WaktuMaghrib(derajat, 0, sesi_.tempat);
     const Nilai tanggal(TanggalDariBuruj(matahari).value_or(""));
-    const int bulan = AmbilTingkat(tanggal, 2), hari = AmbilTingkat(tanggal, 3);
+    const int bulan = AmbilTingkat(tanggal, MedanDarojah), hari = AmbilTingkat(tanggal, MedanDaqiqoh);
     const std::string zona = kataZona().substr(1);
     gurub = rapikan(gabung({saat.terbenam.format("hh.mm"), "WIS", keZona(bulan, hari, saat.terbenam).format("hh.mm"), zona}));
     terbit = rapikan(gabung({saat.terbit.format("hh.mm"), "WIS", keZona(bulan, hari, saat.terbit).format("hh.mm"), zona}));
@@ -304,9 +321,9 @@ Waktu ClsKesimpulan::WaktuGurub(const Nilai& matahari, std::string& gurub, std::
 }
 
 std::string ClsKesimpulan::NurHilal(const Nilai& nur) {
-    const std::string cm = FormatTetap(NilaiDesimal(3, nur) * 0.72, 3) + " cm";
-    const int m = AmbilTingkat(nur, 3);
-    const int n = AmbilTingkat(nur, 2);
+    const std::string cm = FormatTetap(NilaiDesimal(JenisBusur, nur) * 0.72, 3) + " cm";
+    const int m = AmbilTingkat(nur, MedanDaqiqoh);
+    const int n = AmbilTingkat(nur, MedanDarojah);
     std::string pita;
     switch (m) {
         case 1: pita = "1/60 Ushbu'  /"; break;
