@@ -136,6 +136,67 @@ def khusuf(harian, lintang):
     return ashobi, separuh(bayang + jari), separuh(bayang - jari)
 
 
+# The solar eclipse at a place: the midheaven's declination, its distance from the zenith at
+# the books' latitudes (south, 6, 7 and 8 degrees), the moon's parallax split along the
+# ecliptic and across it, and a table of sines.
+LINTANG_IQLIM = (6, 7, 8)
+# The moon's mean horizontal parallax less the sun's: the parallax tables take the moon at its
+# mean distance (their argument is the place, not the moon).
+PARALAKS_RATA = paralaks(385000.56) - MATAHARI_PARALAKS
+# The solar double table: the latitude runs to 35 minutes (the engine refuses more), rows as
+# the lunar one.
+GANDA_KOLOM_S = 36
+
+
+def mail(bujur):
+    """Code 38: the declination of the ecliptic's point at this longitude, degrees (magnitude)."""
+    return abs(math.asin(math.sin(model.ZIJ_OBLIQUITY * RAD) * math.sin(bujur * RAD)) / RAD)
+
+
+def iqlim(bujur, lintang):
+    """Code 39: the distance of the ecliptic's point on the meridian from the zenith of a place
+    `lintang` degrees south, degrees; the side (north of the zenith unless the point's
+    declination is south and larger than the latitude) is the reckoning's."""
+    bertanda = math.asin(math.sin(model.ZIJ_OBLIQUITY * RAD) * math.sin(bujur * RAD)) / RAD
+    return abs(bertanda + lintang)
+
+
+def ikhtilaf_thul(jarak_zenit):
+    """Code 33: the parallax along the ecliptic at 90 degrees from the meridian, minutes."""
+    return PARALAKS_RATA * math.cos(jarak_zenit * RAD) * 60
+
+
+def ikhtilaf_ardli(jarak_zenit):
+    """Code 34: the parallax across the ecliptic, minutes."""
+    return PARALAKS_RATA * math.sin(jarak_zenit * RAD) * 60
+
+
+def ikhtilaf_mandhor(jarak_zenit):
+    """Code 41: the parallax in height of the moon at this distance from the zenith, minutes."""
+    return PARALAKS_RATA * math.sin(jarak_zenit * RAD) * 60
+
+
+def jaib(busur):
+    """Code 40: the sine in parts of sixty."""
+    return abs(60 * math.sin(busur * RAD))
+
+
+def kusuf(harian, lintang):
+    """Fingers of the sun's diameter covered, half the eclipse in hours and half the totality
+    in minutes, for a daily motion (degrees) and the apparent latitude at the conjunction."""
+    jari, _, laju, miring = benda_khusuf(harian)
+    dekat = lintang * math.cos(miring)
+    ashobi = 12 * (jari + MATAHARI_JARI - dekat) / (2 * MATAHARI_JARI)
+    if ashobi <= 0:
+        return 0.0, 0.0, 0.0
+
+    def separuh(r):
+        return math.sqrt(r * r - dekat * dekat) / laju if r > dekat else 0.0
+
+    total = separuh(jari - MATAHARI_JARI) * 60 if jari > MATAHARI_JARI else 0.0
+    return ashobi, separuh(jari + MATAHARI_JARI), total
+
+
 def ganda_argumen(kunci):
     """The daily motion and the latitude (degrees) of a key of the double table."""
     baris, kolom = divmod(kunci, GANDA_KOLOM)
@@ -179,6 +240,28 @@ def isi_baris():
         b["AshobiJah"], b["AshobiQoh"] = dua(ashobi)
         b["SaatKhusfJah"], b["SaatKhusfQoh"] = dua(saat)
         b["MuktsKhusfJah"], b["MuktsKhusfQoh"] = dua(mukts)
+    for kunci in range(1, 361):
+        b = baris(kunci)
+        b["MelAwalJah"], b["MelAwalQoh"], b["MelAwalNii"] = tables.rounded_fields(mail(kunci), 3)
+        for lintang in LINTANG_IQLIM:
+            b[f"IqlimJah{lintang}"], b[f"IqlimQoh{lintang}"] = dua(iqlim(kunci, lintang))
+        # Every row names the argument of the next: here the next degree.
+        b["MahFudIqlim"] = kunci + 1
+        b["JaibJah"], b["JaibQoh"] = dua(jaib(kunci))
+        if kunci <= 90:
+            b["IkhtilafThulQoh"], b["IkhtilafThulNii"] = dua(ikhtilaf_thul(kunci))
+            b["IkhtilafArdliQoh"], b["IkhtilafArdliNii"] = dua(ikhtilaf_ardli(kunci))
+            b["IkhtilafMandhorQoh"], b["IkhtilafMandhorNii"] = dua(ikhtilaf_mandhor(kunci))
+    for kunci in range(1, GANDA_KOLOM * GANDA_BARIS + 1):
+        baris_ke, kolom = divmod(kunci, GANDA_KOLOM)
+        if kolom >= GANDA_KOLOM_S:
+            continue
+        b = baris(kunci)
+        ashobi, saat, total = kusuf(*ganda_argumen(kunci))
+        b["CariKsfS"] = kunci
+        b["AshobiJahS"], b["AshobiQohS"] = dua(ashobi)
+        b["SaatKhusfJahS"], b["SaatKhusfQohS"] = dua(saat)
+        b["SaatMuktsuS"] = tables.round_half_up(total)
     return {k: rows[k] for k in sorted(rows, key=int)}
 
 
@@ -187,6 +270,10 @@ KOLOM = [
     "CariKsf", "AshobiJah", "AshobiQoh", "MuktsKhusfJah", "MuktsKhusfQoh", "SaatKhusfJah", "SaatKhusfQoh",
     "NusQothrZilQoh", "NusQothrZilNii", "NusQothrQomQoh", "NusQothrQomNii", "NusQothrSymsQoh",
     "NusQothrSymsNii", "QothrQomQoh", "QothrQomNii",
+    "MelAwalJah", "MelAwalQoh", "MelAwalNii", "IqlimJah6", "IqlimQoh6", "IqlimJah7", "IqlimQoh7", "IqlimJah8",
+    "IqlimQoh8", "MahFudIqlim", "JaibJah", "JaibQoh", "IkhtilafThulQoh", "IkhtilafThulNii", "IkhtilafArdliQoh",
+    "IkhtilafArdliNii", "IkhtilafMandhorQoh", "IkhtilafMandhorNii",
+    "CariKsfS", "AshobiJahS", "AshobiQohS", "SaatKhusfJahS", "SaatKhusfQohS", "SaatMuktsuS",
 ]  # fmt: skip
 
 
@@ -213,10 +300,32 @@ def periksa(rows):
         assert rows[str(kunci[0])]["MuktsKhusfJah"] * 60 + rows[str(kunci[0])]["MuktsKhusfQoh"] > 0, baris
 
 
+def periksa_kusuf(rows):
+    """Checks of the solar columns."""
+    # The declination at the solstice is the obliquity, 23 30 17; at the equinox 0.
+    assert fields3(rows["90"], "MelAwal") == (23, 30, 17) and fields3(rows["360"], "MelAwal") == (0, 0, 0)
+    # At 6 degrees south the point of 0 Aries stands 6 degrees north of the zenith; the winter
+    # solstice's (270) 23 30 - 6 = 17 30 south of it.
+    assert (rows["360"]["IqlimJah6"], rows["360"]["IqlimQoh6"]) == (6, 0), rows["360"]
+    assert (rows["270"]["IqlimJah6"], rows["270"]["IqlimQoh6"]) == (17, 30), rows["270"]
+    # The sine of 30 is 30 parts; the parallax splits as cos and sin of the same distance.
+    assert (rows["30"]["JaibJah"], rows["30"]["JaibQoh"]) == (30, 0)
+    assert rows["45"]["IkhtilafThulQoh"] == rows["45"]["IkhtilafArdliQoh"]
+    # A central eclipse with the moon far (slow) is annular, near (fast) total.
+    jauh, dekat = rows["1"], rows[str(9 * GANDA_KOLOM)]
+    assert jauh["AshobiJahS"] == 11 and jauh["SaatMuktsuS"] == 0, jauh
+    assert dekat["AshobiJahS"] == 12 and dekat["SaatMuktsuS"] > 0, dekat
+
+
+def fields3(row, nama):
+    return row[nama + "Jah"], row[nama + "Qoh"], row[nama + "Nii"]
+
+
 def main():
     verify = "--verify" in sys.argv[1:]
     rows = isi_baris()
     periksa(rows)
+    periksa_kusuf(rows)
     berkas, teks = gabung("TRBTaadil.csv", KOLOM, rows)
     if verify:
         with open(berkas, encoding="utf-8-sig") as fh:
