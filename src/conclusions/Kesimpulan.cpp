@@ -423,8 +423,9 @@ std::string ClsKesimpulan::FullGerhanB(Nilai& tanggal, const Nilai& hariDihitung
 }
 
 std::string ClsKesimpulan::FullGerhanM(Nilai& tanggal, const Nilai& jam) const {
-    const int m = AmbilTingkat(sesi_.tanggalPilihan, MedanBulan) - 1;
-    const std::string baris = kBarisBulan[static_cast<size_t>(m == 0 ? 11 : std::clamp(m, 0, 11))];
+    // The row of the run's month in the list; a month of 0 reads the last row.
+    const int bulanRun = AmbilTingkat(sesi_.tanggalPilihan, MedanBulan);
+    const std::string baris = kBarisBulan[static_cast<size_t>(bulanRun == 0 ? 11 : std::clamp(bulanRun - 1, 0, 11))];
     const std::string bulan = rapikan(baris.size() > 4 ? baris.substr(4) : std::string());
     return rapikan(gabung({NamaHari(AmbilTingkat(tanggal, MedanHari),
                                     std::to_string(AmbilTingkat(jam, MedanDarojah) + 18), true),

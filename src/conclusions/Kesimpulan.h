@@ -68,7 +68,7 @@ public:
     // of the 18th with the day 17, as the search leaves them. The time `jam`
     // (hours from sunset) makes an evening read as the eve of that day.
     std::string FullGerhanB(Nilai& tanggal, const Nilai& hariDihitung, const Nilai& jam, int16_t& hariHijri) const;
-    // The date line of a solar eclipse, on the 29th of the month before the run's month.
+    // The date line of a solar eclipse: the date of the ijtima', written the 29th of the run's month.
     std::string FullGerhanM(Nilai& tanggal, const Nilai& jam) const;
     // The clock line of a phase: the time (an alamah value or an arc value of hours) in local
     // apparent time and in the place's zone for the date's month and day, the part of the day,

@@ -1,6 +1,7 @@
 #include "run/Registri.h"
 
 #include "eclipse/lunar/KhusufSullam.h"
+#include "eclipse/solar/KusufSullam.h"
 #include "methods/taqribi/FaidlulKarim.h"
 #include "methods/taqribi/FathurRouf.h"
 #include "methods/taqribi/IttifaqDzatilBain.h"
@@ -71,7 +72,8 @@ const std::vector<EntriModul>& DaftarModul() {
         {"NA", Hs, 42, "HsNA_", "Nuru al-Anwar", "Nuru al-Anwar", Tahqiqi, {}, nullptr},
         {"IM", Hs, 46, "HsIM_", "Irsyadu al-Murid", "Irsyadu al-Murid", Tahqiqi, {}, nullptr},
         {"ER", Hs, 49, "HsER_", "Ephemeris", "Ephemeris", Tahqiqi, {}, nullptr},
-        {"SN", Kf, 4, "KfSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi, {}, nullptr},
+        {"SN", Kf, 4, "KfSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi,
+         tabelBulan({"TRBSyahru", "TRBTaadil", "TQQTaadil"}), buat<KusufSullam>},
         {"FR", Kf, 8, "KfFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},
         {"IDB1", Kf, 13, "KfIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi, {},
          nullptr},

@@ -5,6 +5,7 @@
 #include "core/Angka.h"
 #include "core/Daerah.h"
 #include "core/Koneksi.h"
+#include "eclipse/solar/KerangkaKusuf.h"
 
 namespace falak {
 
@@ -157,6 +158,12 @@ LembarKerja* Workspace::Proses(const EntriModul& entri, Modul& m, int32_t tahun,
     return lembar.at(pertama).get();
 }
 
+std::optional<Workspace::Pesan> Workspace::tolakLintang(Garapan jenis) const {
+    if (jenis != Garapan::Kf) return std::nullopt;
+    if (auto teks = PeriksaLintang(sesi.tempat)) return Pesan{"Sepurane..", *teks};
+    return std::nullopt;
+}
+
 Workspace::HasilProses Workspace::mnuProsesGerhana(Garapan jenis, const std::string& kodeKitab,
                                                    const std::string& tahunTeks, int bulan,
                                                    const std::string& namaTempat) {
@@ -165,6 +172,7 @@ Workspace::HasilProses Workspace::mnuProsesGerhana(Garapan jenis, const std::str
     Modul* m = entri ? modul(*entri) : nullptr;
     if (!m) return {nullptr, belumTersedia(entri, kodeKitab)};
     pilihTempat(namaTempat);
+    if (auto pesan = tolakLintang(jenis)) return {nullptr, pesan};
     LembarKerja* tab = Proses(*entri, *m, BulatGenap32(ValAngka(tahunTeks)).value_or(0), bulan);
     if (tab) return {tab, std::nullopt};
     const std::string benda = jenis == Garapan::Hs ? "gerhana bulan" : "gerhana matahari";
@@ -188,6 +196,7 @@ Workspace::HasilBatch Workspace::cariGerhana(Garapan jenis, const std::string& k
         return hasil;
     }
     pilihTempat(namaTempat);
+    if ((hasil.pesan = tolakLintang(jenis))) return hasil;
     const int32_t awal = BulatGenap32(ValAngka(tahunTeks)).value_or(0);
     kemajuan.berhenti = false;
     kemajuan.mulaiBatch(static_cast<int>(std::max(0, tahunAkhir - awal + 1) * 12));

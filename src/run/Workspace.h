@@ -119,6 +119,8 @@ public:
     std::vector<std::unique_ptr<LembarKerja>> lembar;
 
 private:
+    // The solar eclipse's refusal of a place whose latitude its tables do not hold.
+    std::optional<Pesan> tolakLintang(Garapan jenis) const;
     // The year text as the year check reads it; a message when it is not filled in.
     std::optional<Pesan> periksaTahun(const std::string& tahunTeks) const;
     // Proses: one run of the module with its sheets, which become new work sheets; the first

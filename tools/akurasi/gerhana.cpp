@@ -20,7 +20,9 @@
 #include <cstdio>
 #include <vector>
 
+#include "core/FungsHisab.h"
 #include "core/Kalender.h"
+#include "core/Tingkatan.h"
 #include "core/Koneksi.h"
 #include "run/Workspace.h"
 

@@ -213,6 +213,65 @@ def khusuf_sullam():
     return f
 
 
+def kusuf_sullam():
+    """Sullam al-Nairoin's solar eclipse: a grid of 47 rows by 40; the run writes its right
+    block at column 37, the place's rows at 19 and the double look-ups at 9."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", "الأوج"])
+    kanan = [
+        "تعديل الخاصة", "تعديل المركز", "المجموع", "الحاصل", "تعديل المركز", "تعديل القمر",
+        "المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس",
+        "تعديل القمر", "دقائق تعديل الأيام", "الباقي", "حصة الساعة", "ساعات البعد",
+        "العلامة", "ساعات البعد", "الاجتماع بالمركز", "فضل الطولين", "الاجتماع ببلد",
+        "ساعات البعد", "الحاصل", "تعديل المركز", "المجموع", "الحصة", "المجموع", "الحصة المعدلة",
+        "ساعات البعد", "الحاصل", "الخاصة", "الخاصة المعدلة",
+        "وسط الكسوف", "أول الكسوف", "آخر الكسوف", "مدة الكسوف",
+    ]  # fmt: skip
+    tengah = [
+        "نصف النهار", "ساعة الاجتماع", "فضل الدائر", "الدائر", "تقويم الشمس", "وسط السماء", "الدائر",
+        "مطالع وسط السماء",
+        "تقويم الشمس", "وسط السماء", "البعد", "الجيب",
+        "اختلاف الطول", "الحاصل", "حصة الساعة", "تعديل الوقت", "الاجتماع", "الاجتماع المرئي",
+        "نصف النهار", "الاجتماع المرئي", "فضل الدائر", "الدائر", "تقويم الشمس", "وسط السماء",
+        "الميل", "الإقليم", "اختلاف الطول", "الميل", "الإقليم", "اختلاف الطول",
+        "الحصة المعدلة", "اختلاف الطول", "الحصة المرئية", "العرض المرئي",
+        "مكث الكسوف", "أول المكث", "آخر المكث", "مدة المكث",
+    ]  # fmt: skip
+    for i, teks in enumerate(kanan):
+        label(teks, 8 + i, 38)
+    for i, teks in enumerate(tengah):
+        label(teks, 8 + i, 20, 27)
+    ganda = ["السطر التالي", "الفضل", "المعدل", "السطر الثاني", "التالي", "الفضل", "المعدل",
+             "الفضل بين المعدلين", "الفضل", "الحاصل", "العرض المرئي", "البهت"]
+    for awal, judul in [(8, "الأصابع"), (21, "نصف مدة الكسوف"), (34, "نصف مدة المكث")]:
+        for i, teks in enumerate([judul] + ganda):
+            label(teks, awal + i, 10)
+    return f
+
+
+def koreksi_kusuf():
+    """The sheet of the solar eclipse's worked look-ups: one row a look-up, its five lines side
+    by side from the right, eight columns each (Buruj, Darajah, Daqiqah, Tsaniyah)."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    label("تعديلات الكسوف", 0, 0, 40)
+    for i, teks in enumerate(["المدخل", "السطر", "السطر التالي", "الفضل", "المعدل"]):
+        label(teks, 1, 33 - 8 * i, 39 - 8 * i)
+    for i, teks in enumerate(["تعديل الخاصة", "تعديل المركز", "حصة الساعة", "دقائق تعديل الأيام", "البهت",
+                              "المطالع", "مطالع وسط السماء", "الميل", "الإقليم", "اختلاف الطول", "الجيب",
+                              "الميل الثاني", "الإقليم الثاني", "اختلاف الطول الثاني", "اختلاف العرض",
+                              "عرض القمر"]):
+        label(teks, 2 + i, 40)
+    return f
+
+
 # The labels of the conclusion lines, read by position (the line writers name the position).
 LABEL = [
     "Awal bulan sesudah ",        # 0  first of the month, after the chosen month's name
@@ -273,6 +332,8 @@ def main():
         "FK": fathur(waktu=True),
         "SH": syamsul_hilal(),
         "SNGB": khusuf_sullam(),
+        "SNGM": kusuf_sullam(),
+        "SNTK": koreksi_kusuf(),
     }
     panjang = max(len(v) for v in frames.values())
     kolom = [f"{nama}{x}" for x in frames for nama in ("Nama", "Baris", "Kolom1", "Kolom2")]
