@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,6 +20,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -120,6 +122,9 @@ void FrmHisab::buatTampilan() {
     daerah_ = new QComboBox;
     daerah_->setObjectName("cboDaerah");
     daerah_->setMaxVisibleItems(20);
+    // A long place name is shortened in the box, not let widen the panel; the list shows it.
+    daerah_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    daerah_->setMinimumContentsLength(16);
     tahunH_ = new QLineEdit;
     tahunH_->setObjectName("RichTahunH");
     tahunH_->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,5}"), tahunH_));
@@ -242,6 +247,13 @@ void FrmHisab::isiPohon() {
         induk->addChild(item);
     }
     pohon_->expandAll();
+    // Every book's name whole: the panel is at least as wide as the tree's longest line.
+    pohon_->header()->setStretchLastSection(false);
+    pohon_->resizeColumnToContents(0);
+    const int isi = pohon_->columnWidth(0);
+    pohon_->header()->setStretchLastSection(true);
+    pohon_->setMinimumWidth(isi + 2 * pohon_->frameWidth() +
+                            pohon_->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, pohon_));
 }
 
 void FrmHisab::isiDaerah(const QString& pilih) {
