@@ -191,7 +191,7 @@ private slots:
         const char* pohon[] = {"FILE",         "mnuExport",   "mnuExportThis", "mnuExportKet", "mnuExportAll",
                                "mnuExportRumus", "mnuPrint",  "mnuExit",       "EDIT",         "mnuPicRumuz",
                                "mnuNewDaerah", "PROSESMENU",  "mnuProsesIj",   "mnuProsesIj|2", "mnuProsesGB",
-                               "mnuProsesGM",  "mnuProsesAll", "mnuBulan",     "mnuBulan|1",   "mnu12Bulan",
+                               "mnuProsesGM",  "mnuProsesAll", "mnuProsesAll1", "mnu12Bulan1", "mnuBulan",     "mnuBulan|1",   "mnu12Bulan",
                                "mnuthGerhanaB", "mnthGB|1",   "mnuthGerhanaM", "mnthGM|1",     "HELP",
                                "mnuAbout",     "SHEETSMENU"};
         for (const QString kunci : pohon) {
@@ -305,6 +305,35 @@ private slots:
         tungguSelesai();
         QVERIFY(lembar(tab()->count() - 1)->objectName().startsWith("IjSN_"));
         QVERIFY(lembar(tab()->count() - 1)->objectName() != "IjSN_1");
+    }
+
+    void allMethodsReplaceTheOpenSheetsUnlessANewTabIsAsked() {
+        pilih("Pasuruan", "1445", 8);
+        cari(*w, "mnuProsesAll")->trigger();
+        tungguSelesai();
+        const int n = tab()->count();
+        QCOMPARE(n, static_cast<int>(w->ruangKerja().kitabTersedia().size()));
+        QStringList kunci;
+        for (int i = 0; i < n; ++i) kunci << lembar(i)->objectName();
+
+        // Each book's new sheet stands where its old one stood, under the old key; the old
+        // sheets are gone from the session.
+        pilih("Pasuruan", "1445", 9);
+        cari(*w, "mnuProsesAll")->trigger();
+        tungguSelesai();
+        QCOMPARE(tab()->count(), n);
+        QCOMPARE(static_cast<int>(w->ruangKerja().lembar.size()), n);
+        for (int i = 0; i < n; ++i) {
+            QCOMPARE(lembar(i)->objectName(), kunci[i]);
+            QCOMPARE(tab()->tabText(i), QString("Hisab Awal Bulan 1445 H. 9"));
+        }
+
+        QCOMPARE(cari(*w, "mnuProsesAll1")->text(), QString("Proses semua metode (Tab Baru)"));
+        cari(*w, "mnuProsesAll1")->trigger();
+        tungguSelesai();
+        QCOMPARE(tab()->count(), 2 * n);
+        QCOMPARE(tab()->currentIndex(), 2 * n - 1);
+        QVERIFY(!kunci.contains(lembar(n)->objectName()));
     }
 
     void emptyYearIsRefusedWithTheBooksMessage() {

@@ -11,28 +11,15 @@
 
 namespace falak::cli {
 
-const char* const kBantuanGerhana =
-    "  falak gerhana --jenis bulan|matahari --kitab SN --tahun 1445 [--sampai 1450] [--markaz NAMA] [--json]\n"
-    "                                  gerhana yang ditemukan kitab itu, satu per baris dengan waktu fasenya\n"
-    "  falak gerhana --jenis bulan --kitab SN --tahun 1445 --bulan 8 [--markaz NAMA] [--json]\n"
-    "                                  hisab gerhana satu bulan: lembar kerja dan kesimpulannya\n";
-
 namespace {
 
 struct Pilihan {
-    std::string jenis = "bulan";
-    std::string kitab = "SN";
+    std::string kitab;
     std::string tahun;
-    std::string sampai;
-    std::string bulan;
-    std::string tempat = "Pasuruan";
+    std::string tempat;
+    int32_t sampai = 0;
     bool json = false;
 };
-
-bool tahunSah(const std::string& t) {
-    const double v = ValAngka(t);
-    return AdalahAngka(t) && BulatGenap32(v) && v == BulatGenap(v);
-}
 
 std::string daftarKode(Garapan jenis) {
     std::string s;
@@ -54,12 +41,10 @@ void tulisKesimpulanJson(std::ostream& out, const std::vector<std::string>& kesi
     out << "]";
 }
 
-int satuBulan(Workspace& ws, Garapan jenis, const Pilihan& p, int bulan, std::ostream& out, std::ostream& err) {
+int satuBulan(Workspace& ws, Garapan jenis, const Pilihan& p, int bulan, const Argumen& a, const Lingkungan& l) {
+    std::ostream& out = l.out;
     const auto hasil = ws.mnuProsesGerhana(jenis, p.kitab, p.tahun, bulan, p.tempat);
-    if (hasil.pesan) {
-        err << hasil.pesan->judul << ": " << hasil.pesan->teks << "\n";
-        return 1;
-    }
+    if (hasil.pesan) return Tolak(a, l, hasil.pesan->teks);
     const LembarKerja& tab = *hasil.lembar;
     if (p.json) {
         out << "{\"kitab\": " << jsonTeks(p.kitab) << ", \"kunci\": " << jsonTeks(tab.kunci) << ", ";
@@ -80,13 +65,10 @@ int satuBulan(Workspace& ws, Garapan jenis, const Pilihan& p, int bulan, std::os
     return 0;
 }
 
-int beberapaTahun(Workspace& ws, Garapan jenis, const Pilihan& p, std::ostream& out, std::ostream& err) {
-    const int32_t akhir = BulatGenap32(ValAngka(p.sampai.empty() ? p.tahun : p.sampai)).value_or(0);
-    const auto hasil = ws.cariGerhana(jenis, p.kitab, p.tahun, akhir, p.tempat);
-    if (hasil.pesan) {
-        err << hasil.pesan->judul << ": " << hasil.pesan->teks << "\n";
-        return 1;
-    }
+int beberapaTahun(Workspace& ws, Garapan jenis, const Pilihan& p, const Argumen& a, const Lingkungan& l) {
+    std::ostream& out = l.out;
+    const auto hasil = ws.cariGerhana(jenis, p.kitab, p.tahun, p.sampai, p.tempat);
+    if (hasil.pesan) return Tolak(a, l, hasil.pesan->teks);
     if (p.json) out << "[";
     bool pertama = true;
     for (const Workspace::HasilRun& r : hasil.ringkas) {
@@ -116,68 +98,25 @@ int beberapaTahun(Workspace& ws, Garapan jenis, const Pilihan& p, std::ostream& 
 
 }  // namespace
 
-int perintahGerhana(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                    std::ostream& err) {
-    Pilihan p;
-    for (size_t i = 0; i < argumen.size(); ++i) {
-        const std::string& a = argumen[i];
-        if (a == "--json") {
-            p.json = true;
-            continue;
-        }
-        std::string* tujuan = a == "--jenis"    ? &p.jenis
-                              : a == "--kitab"  ? &p.kitab
-                              : a == "--tahun"  ? &p.tahun
-                              : a == "--sampai" ? &p.sampai
-                              : a == "--bulan"  ? &p.bulan
-                              : (a == "--markaz" || a == "--tempat") ? &p.tempat
-                                                                      : nullptr;
-        if (!tujuan) {
-            err << "falak gerhana: pilihan \"" << a << "\" tidak dikenal\n";
-            return 2;
-        }
-        if (i + 1 >= argumen.size()) {
-            err << "falak gerhana: " << a << " butuh isian\n";
-            return 2;
-        }
-        *tujuan = argumen[++i];
+int perintahGerhana(const Argumen& a, const Lingkungan& l) {
+    const Garapan jenis = a.teks("--jenis") == "matahari" ? Garapan::Kf : Garapan::Hs;
+    Pilihan p{a.teks("--kitab"), a.teks("--tahun"), a.teks("--markaz"), a.bulat("--tahun"), a.ada("--json")};
+    const EntriModul* e = CariModul(p.kitab, jenis);
+    if (!e || !e->tersedia())
+        throw SalahPakai{"gerhana " + a.teks("--jenis") + " menurut kitab \"" + p.kitab +
+                         "\" belum tersedia; pilihlah " + daftarKode(jenis)};
+    if (a.ada("--sampai")) {
+        if (a.ada("--bulan")) throw SalahPakai{"--bulan dan --sampai tidak bisa dipakai bersama"};
+        p.sampai = a.bulat("--sampai");
+        if (p.sampai < a.bulat("--tahun")) throw SalahPakai{"--sampai tidak boleh sebelum --tahun"};
     }
-    if (p.jenis != "bulan" && p.jenis != "matahari") {
-        err << "falak gerhana: jenis \"" << p.jenis << "\" tidak dikenal; pilihlah bulan atau matahari\n";
-        return 2;
-    }
-    const Garapan jenis = p.jenis == "bulan" ? Garapan::Hs : Garapan::Kf;
-    if (!CariModul(p.kitab, jenis)) {
-        err << "falak gerhana: kitab \"" << p.kitab << "\" tidak dikenal. Pilihan: " << daftarKode(jenis) << "\n";
-        return 2;
-    }
-    if (p.tahun.empty() || !tahunSah(p.tahun)) {
-        err << "falak gerhana: tahun \"" << p.tahun << "\" bukan tahun Hijriyah yang sah (tulislah misalnya 1445)\n";
-        return 2;
-    }
-    if (!p.sampai.empty() && (!tahunSah(p.sampai) || ValAngka(p.sampai) < ValAngka(p.tahun))) {
-        err << "falak gerhana: --sampai \"" << p.sampai << "\" harus tahun Hijriyah yang tidak sebelum --tahun\n";
-        return 2;
-    }
-    int bulan = 0;
-    if (!p.bulan.empty()) {
-        const double b = ValAngka(p.bulan);
-        if (!AdalahAngka(p.bulan) || b != BulatGenap(b) || b < 1 || b > 12 || !p.sampai.empty()) {
-            err << "falak gerhana: bulan \"" << p.bulan
-                << "\" tidak ada; pilihlah 1 sampai 12 (1 Muharrom ... 12 Dzulhijjah), tanpa --sampai\n";
-            return 2;
-        }
-        bulan = static_cast<int>(b);
-    }
-
-    ClsConnection koneksi(lokasi);
-    err << LaporanMasalah(koneksi.masalah());
+    ClsConnection koneksi(l.lokasi);
     Workspace ws(koneksi);
-    if (!CariTempat(koneksi.Daerah, p.tempat)) {
-        err << "falak gerhana: daerah \"" << p.tempat << "\" tidak ada di daftar tempat (lihat: falak tempat daftar)\n";
-        return 2;
-    }
-    return bulan != 0 ? satuBulan(ws, jenis, p, bulan, out, err) : beberapaTahun(ws, jenis, p, out, err);
+    l.err << LaporanMasalah(ws.masalahTabel());
+    const auto tempat = CariTempat(koneksi.Daerah, p.tempat);
+    if (!tempat) throw SalahPakai{"daerah \"" + p.tempat + "\" tidak ada di daftar tempat (lihat: falak tempat daftar)"};
+    p.tempat = tempat->nama;
+    return a.ada("--bulan") ? satuBulan(ws, jenis, p, a.bulat("--bulan"), a, l) : beberapaTahun(ws, jenis, p, a, l);
 }
 
 }  // namespace falak::cli

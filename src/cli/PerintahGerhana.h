@@ -2,17 +2,10 @@
 // line with the times of their phases; with one month, the worked sheet and its conclusion.
 #pragma once
 
-#include <iosfwd>
-#include <string>
-#include <vector>
-
-#include "core/Berkas.h"
+#include "cli/Perintah.h"
 
 namespace falak::cli {
 
-extern const char* const kBantuanGerhana;
-
-int perintahGerhana(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                    std::ostream& err);
+int perintahGerhana(const Argumen& a, const Lingkungan& l);
 
 }  // namespace falak::cli
