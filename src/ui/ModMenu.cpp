@@ -18,6 +18,7 @@ QString q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<q
 
 void keluar(FrmHisab& j, QAction&) { j.close(); }
 void bukaDaerah(FrmHisab& j, QAction&) { j.bukaDaerah(); }
+void tutupLembar(FrmHisab& j, QAction&) { j.tutupLembarAktif(); }
 void prosesKitab(FrmHisab& j, const EntriModul& m) { j.prosesKitab(std::string(m.kode)); }
 void prosesSemuaMetode(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0, FrmHisab::Tab::Ganti); }
 void prosesSemuaMetodeTabBaru(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0); }
@@ -140,6 +141,8 @@ const std::vector<ItemMenu>& DaftarMenu() {
         PerNomor("mnuthGerhanaM", "mnthGM", 1, 10, tahunKedepan, nullptr),
 
         MenuJendela("", "SHEETSMENU", "&Lembar"),
+        Perintah("SHEETSMENU", "mnuTutupLembar", "&Tutup Lembar Ini", tutupLembar, QKeySequence(Qt::CTRL | Qt::Key_W)),
+        Pemisah("SHEETSMENU", "SEPARATOR"),
 
         Menu("", "HELP", "&Help"),
         bolehSibuk(Perintah("HELP", "mnuAbout", "Seng Nggawe Program", tentang)),
@@ -197,12 +200,13 @@ MenuTerbangun BangunMenu(FrmHisab& jendela, QMenuBar& bar, const std::vector<Ite
         }
     }
     // A menu with nothing to choose is not there; an inner menu first, so that its parent
-    // then knows whether anything is left in it. The window's own menus wait hidden.
+    // then knows whether anything is left in it. The window's own menus wait hidden until it
+    // has put its items in them.
     for (auto it = urutan.rbegin(); it != urutan.rend(); ++it) {
         auto [m, diisiJendela] = *it;
         bool ada = false;
         for (const QAction* a : m->actions()) ada = ada || !a->isSeparator();
-        if (diisiJendela) m->menuAction()->setVisible(ada);
+        if (diisiJendela) m->menuAction()->setVisible(false);
         else if (!ada) delete m;
     }
     return hasil;
