@@ -9,6 +9,7 @@
 #include "core/FungsHisab.h"
 #include "ui/FrmHisab.h"
 #include "ui/KotakPesan.h"
+#include "ui/Kirim.h"
 
 namespace falak::ui {
 
@@ -25,6 +26,10 @@ void prosesSemuaMetodeTabBaru(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0); }
 void prosesBulan(FrmHisab& j, int bulan) { j.prosesSemuaMetode(bulan); }
 void prosesSetahun(FrmHisab& j, QAction&) { j.prosesSetahun(FrmHisab::Tab::Ganti); }
 void prosesSetahunTabBaru(FrmHisab& j, QAction&) { j.prosesSetahun(); }
+void eksporIni(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::HalamanIni); }
+void eksporKet(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Keterangan); }
+void eksporSemua(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Semua); }
+void cetak(FrmHisab& j, QAction&) { Cetak(j); }
 
 QString judulBulan(int bulan) { return QString::fromUtf8(kBarisBulan[static_cast<size_t>(bulan - 1)]); }
 QString tahunKedepan(int n) { return QString::number(n) + QStringLiteral(" tahun kedepan"); }
@@ -106,12 +111,12 @@ const std::vector<ItemMenu>& DaftarMenu() {
     static const std::vector<ItemMenu> daftar = {
         Menu("", "FILE", "&File"),
         Menu("FILE", "mnuExport", "Kirim ke Excel (&Export to Excel)"),
-        Perintah("mnuExport", "mnuExportThis", "&Halaman Ini Saja", nullptr, QKeySequence(Qt::CTRL | Qt::Key_E)),
-        Perintah("mnuExport", "mnuExportKet", "&Keterangan Saja", nullptr),
-        Perintah("mnuExport", "mnuExportAll", "Se&mua", nullptr, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)),
+        Perintah("mnuExport", "mnuExportThis", "&Halaman Ini Saja", eksporIni, QKeySequence(Qt::CTRL | Qt::Key_E)),
+        Perintah("mnuExport", "mnuExportKet", "&Keterangan Saja", eksporKet),
+        Perintah("mnuExport", "mnuExportAll", "Se&mua", eksporSemua, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)),
         Perintah("FILE", "mnuExportRumus", "Kirim Rumus ke Word (&Export to Word)", nullptr),
         Pemisah("FILE", "SEPARATOR1"),
-        Perintah("FILE", "mnuPrint", "Cetak (&Print)", nullptr, QKeySequence::Print),
+        Perintah("FILE", "mnuPrint", "Cetak (&Print)", cetak, QKeySequence::Print),
         Pemisah("FILE", "SEPARATOR2"),
         bolehSibuk(Perintah("FILE", "mnuExit", "Keluar (&Exit)", keluar, QKeySequence::Quit)),
 
