@@ -128,10 +128,10 @@ double tinggiGeosentris(double jdUt, double lintang, double bujur) {
     return std::asin(std::sin(f) * std::sin(d) + std::cos(f) * std::cos(d) * std::cos(H)) * 180 / M_PI;
 }
 
-double gurubSesudah(double jdUt, double lintang, double bujur) {
+double gurubSesudah(double jdUt, double lintang, double bujur, int tepi = 0) {
     double geo[3] = {bujur, lintang, 0}, t = 0;
     char err[256];
-    swe_rise_trans(jdUt, SE_SUN, nullptr, SEFLG_SWIEPH, SE_CALC_SET, geo, 1013.25, 15, &t, err);
+    swe_rise_trans(jdUt, SE_SUN, nullptr, SEFLG_SWIEPH, SE_CALC_SET | tepi, geo, 1013.25, 15, &t, err);
     return t;
 }
 
@@ -303,7 +303,7 @@ int main() {
         const double lintang = -(7 + 33 / 60.0), bujur = 112 + 13 / 60.0;
         for (const char* kode : {"BM", "NA"}) {
             auto* buku = dynamic_cast<KerangkaTahqiqi*>(ws.modul(kode));
-            Stat ij, tg, matahari, bulanS;
+            Stat ij, tg, tgPusat, matahari, bulanS;
             int lintas = 0;
             auto derajat = [](const Nilai& v) {
                 return AmbilTingkat(v, 1) * 30.0 + AmbilTingkat(v, 2) + AmbilTingkat(v, 3) / 60.0 +
@@ -336,6 +336,10 @@ int main() {
                     const double gurub = keUt(hariHilal, NilaiDesimal(3, buku->Ijtima(4)));
                     const double gurubSejati = gurubSesudah(hariHilal - bujur / 360 + 0.25, lintang, bujur);
                     tg.tambah(buku->tinggiHilal() - tinggiGeosentris(gurubSejati, lintang, bujur));
+                    // The same at the moment the sun's centre reaches the airless horizon.
+                    const double gurubPusat = gurubSesudah(hariHilal - bujur / 360 + 0.25, lintang, bujur,
+                                                           SE_BIT_DISC_CENTER | SE_BIT_NO_REFRACTION);
+                    tgPusat.tambah(buku->tinggiHilal() - tinggiGeosentris(gurubPusat, lintang, bujur));
                     double m[6], sn[6];
                     posisi(gurub, SE_MOON, 0, m);
                     posisi(gurub, SE_SUN, 0, sn);
@@ -347,6 +351,8 @@ int main() {
                         " %d left out: the sun's equation read across its change of sign)\n",
                         kode, ij.rata(), ij.rataMutlak(), ij.maks, tg.rata(), tg.rataMutlak(), tg.maks,
                         matahari.rataMutlak(), matahari.maks, bulanS.rataMutlak(), bulanS.maks, ij.n, lintas);
+            std::printf("%-5s   height - true at the sun's centre on the airless horizon: mean %+.2f, |.| %.2f, largest %+.2f\n",
+                        kode, tgPusat.rata(), tgPusat.rataMutlak(), tgPusat.maks);
         }
     }
     return 0;
