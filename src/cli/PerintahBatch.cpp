@@ -10,15 +10,17 @@
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
 #include "run/Workspace.h"
 
 namespace falak::cli {
 
 const char* const kBantuanBatch =
-    "  falak semua --tahun 1445 --bulan 8 [--markaz NAMA] [--json]\n"
+    "  falak semua --tahun 1445 --bulan 8 [--markaz NAMA] [--json] [--xlsx BERKAS]\n"
     "                                  ijtima' dan awal bulan menurut semua kitab\n"
-    "  falak setahun --kitab SN|semua --tahun 1445 [--markaz NAMA] [--json]\n"
-    "                                  dua belas bulan setahun menurut satu kitab (atau semua)\n";
+    "  falak setahun --kitab SN|semua --tahun 1445 [--markaz NAMA] [--json] [--xlsx BERKAS]\n"
+    "                                  dua belas bulan setahun menurut satu kitab (atau semua)\n"
+    "                                  --xlsx: lembar hisab dan kesimpulannya ke berkas .xlsx\n";
 
 namespace {
 
@@ -28,6 +30,7 @@ struct Pilihan {
     std::string bulan;
     std::string tempat = "Pasuruan";
     bool json = false;
+    std::string xlsx;  // the workbook to write, when asked
 };
 
 // Reads the options; a message and false when one is wrong.
@@ -51,6 +54,7 @@ bool bacaPilihan(const std::string& perintah, const std::vector<std::string>& ar
         if (a == "--kitab") p.kitab = v;
         else if (a == "--tahun") p.tahun = v;
         else if (a == "--bulan") p.bulan = v;
+        else if (a == "--xlsx") p.xlsx = v;
         else p.tempat = v;
     }
     if (p.tahun.empty() || !AdalahAngka(p.tahun) || !BulatGenap32(ValAngka(p.tahun)) ||
@@ -134,7 +138,7 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
     out << "\n  ]\n}\n";
 }
 
-using Jalankan = std::function<Workspace::HasilBatch(Workspace&)>;
+using Jalankan = std::function<Workspace::HasilBatch(Workspace&, Workspace::Keluaran)>;
 
 int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lokasi, bool kolomBulan,
              const Jalankan& batch, std::ostream& out, std::ostream& err) {
@@ -147,10 +151,20 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
         return 2;
     }
     Workspace ws(koneksi);
-    const Workspace::HasilBatch h = batch(ws);
+    // Sheets are painted only for a workbook.
+    const Workspace::HasilBatch h =
+        batch(ws, p.xlsx.empty() ? Workspace::Keluaran::Ringkas : Workspace::Keluaran::Lembar);
     if (h.pesan) {
         err << h.pesan->judul << ": " << h.pesan->teks << "\n";
         return 1;
+    }
+    if (!p.xlsx.empty()) {
+        std::vector<const LembarKerja*> semua;
+        for (const auto& l : ws.lembar) semua.push_back(l.get());
+        if (const std::string salah = EksporExcel(semua, true, koneksi, p.xlsx); !salah.empty()) {
+            err << "falak " << perintah << ": " << salah << "\n";
+            return 1;
+        }
     }
     if (p.json) {
         tulisJson(out, ws, h.ringkas);
@@ -177,16 +191,15 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
 int perintahSemua(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
                   std::ostream& err) {
     Pilihan p;
-    if (!bacaPilihan("semua", argumen, {"--tahun", "--bulan", "--markaz", "--tempat"}, p, err)) return 2;
+    if (!bacaPilihan("semua", argumen, {"--tahun", "--bulan", "--markaz", "--tempat", "--xlsx"}, p, err)) return 2;
     const double bulan = ValAngka(p.bulan);
     if (!AdalahAngka(p.bulan) || bulan != BulatGenap(bulan) || bulan < 1 || bulan > 12) {
         err << "falak semua: bulan \"" << p.bulan << "\" tidak ada; pilihlah 1 sampai 12 (1 Muharrom ... 12 Dzulhijjah)\n";
         return 2;
     }
     return jalankan("semua", p, lokasi, false,
-                    [&](Workspace& ws) {
-                        return ws.mnuProsesAllSub(p.tahun, static_cast<int>(bulan), p.tempat,
-                                                  Workspace::Keluaran::Ringkas);
+                    [&](Workspace& ws, Workspace::Keluaran keluaran) {
+                        return ws.mnuProsesAllSub(p.tahun, static_cast<int>(bulan), p.tempat, keluaran);
                     },
                     out, err);
 }
@@ -195,7 +208,7 @@ int perintahSetahun(const std::vector<std::string>& argumen, const LokasiData& l
                     std::ostream& err) {
     Pilihan p;
     p.kitab = "SN";
-    if (!bacaPilihan("setahun", argumen, {"--kitab", "--tahun", "--markaz", "--tempat"}, p, err)) return 2;
+    if (!bacaPilihan("setahun", argumen, {"--kitab", "--tahun", "--markaz", "--tempat", "--xlsx"}, p, err)) return 2;
     const bool semua = p.kitab == "semua";
     if (!semua && !CariModul(p.kitab)) {
         std::string daftar;
@@ -204,9 +217,9 @@ int perintahSetahun(const std::vector<std::string>& argumen, const LokasiData& l
         return 2;
     }
     return jalankan("setahun", p, lokasi, true,
-                    [&](Workspace& ws) {
-                        return semua ? ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat, Workspace::Keluaran::Ringkas)
-                                     : ws.mnu12BulanSub(p.kitab, p.tahun, p.tempat, Workspace::Keluaran::Ringkas);
+                    [&](Workspace& ws, Workspace::Keluaran keluaran) {
+                        return semua ? ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat, keluaran)
+                                     : ws.mnu12BulanSub(p.kitab, p.tahun, p.tempat, keluaran);
                     },
                     out, err);
 }

@@ -8,6 +8,7 @@
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
 #include "run/Workspace.h"
 
 namespace falak::cli {
@@ -20,6 +21,7 @@ struct Pilihan {
     std::string bulan;
     std::string tempat = "Pasuruan";
     bool json = false;
+    std::string xlsx;  // the workbook to write, when asked
 };
 
 std::string daftarKode() {
@@ -72,7 +74,7 @@ int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, st
         };
         const std::string* v = nullptr;
         if (a == "--json") { p.json = true; continue; }
-        if (a != "--kitab" && a != "--tahun" && a != "--bulan" && a != "--markaz" && a != "--tempat") {
+        if (a != "--kitab" && a != "--tahun" && a != "--bulan" && a != "--markaz" && a != "--tempat" && a != "--xlsx") {
             err << "falak hisab: pilihan \"" << a << "\" tidak dikenal\n";
             return 2;
         }
@@ -83,6 +85,7 @@ int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, st
         if (a == "--kitab") p.kitab = *v;
         else if (a == "--tahun") p.tahun = *v;
         else if (a == "--bulan") p.bulan = *v;
+        else if (a == "--xlsx") p.xlsx = *v;
         else p.tempat = *v;
     }
     if (!CariModul(p.kitab)) {
@@ -113,6 +116,14 @@ int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, st
         return 1;
     }
     const LembarKerja& tab = *hasil.lembar;
+    if (!p.xlsx.empty()) {
+        std::vector<const LembarKerja*> semua;
+        for (const auto& l : ws.lembar) semua.push_back(l.get());
+        if (const std::string salah = EksporExcel(semua, true, koneksi, p.xlsx); !salah.empty()) {
+            err << "falak hisab: " << salah << "\n";
+            return 1;
+        }
+    }
     if (p.json) {
         tulisJson(out, tab, ws.sesi, ws.sesi.tempat);
         return 0;

@@ -16,8 +16,9 @@ const std::string kBantuan =
                 "Pemakaian:\n"
                 "  falak nilai OPERASI...          kalkulator nilai (mis. 'tambah;3;3;1;00 10 00 00 00 1;00 20 00 00 00 1')\n"
                 "  falak nilai --batch             operasi satu per baris dari masukan baku\n"
-                "  falak hisab --kitab SN --tahun 1445 --bulan 8 [--markaz NAMA] [--json]\n"
+                "  falak hisab --kitab SN --tahun 1445 --bulan 8 [--markaz NAMA] [--json] [--xlsx BERKAS]\n"
                 "                                  ijtima' dan hilal akhir bulan itu menurut satu kitab\n"
+                "                                  (--xlsx: lembar hisab dan kesimpulannya ke berkas .xlsx)\n"
                 "                                  (kitab: SN, FR, IDB1, SH, TZ, KW1, FK)\n") +
     falak::cli::kBantuanBatch +
     falak::cli::kBantuanTempat;

@@ -85,7 +85,9 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriMo
         }
         Modul& m = *modul(*entri);
         if (keluaran == Keluaran::Lembar) {
-            hasil.lembar.push_back(&Proses(*entri, m, tahun, bulan));
+            LembarKerja& tab = Proses(*entri, m, tahun, bulan);
+            hasil.lembar.push_back(&tab);
+            hasil.ringkas.push_back({entri, tahun, bulan, tab.kesimpulan, tab.ringkasan});
         } else {
             siapkan(*entri, tahun, bulan);
             HasilHitung h = m.Hitung({tahun, static_cast<int16_t>(bulan), false});

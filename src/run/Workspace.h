@@ -59,9 +59,9 @@ public:
     // for the twelve months of a year (mnu12BulanSub), and the twelve months by every
     // available treatise. With Keluaran::Lembar each run makes its sheet; with
     // Keluaran::Ringkas no sheet is made or painted and each run leaves its conclusion and
-    // its gist only. The progress bar (Kemajuan's callback) moves once a run; the stop flag
-    // (Kemajuan::berhenti, which another thread may raise) ends the batch between two runs,
-    // keeping what was already made.
+    // its gist only; either way every run leaves them in `ringkas`. The progress bar
+    // (Kemajuan's callback) moves once a run; the stop flag (Kemajuan::berhenti, which another
+    // thread may raise) ends the batch between two runs, keeping what was already made.
     enum class Keluaran { Lembar, Ringkas };
     struct HasilRun {
         const EntriModul* modul = nullptr;
