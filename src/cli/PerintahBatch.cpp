@@ -7,6 +7,7 @@
 #include "cli/Json.h"
 #include "conclusions/Kesimpulan.h"
 #include "core/Angka.h"
+#include "core/Arah.h"
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
@@ -15,56 +16,7 @@
 
 namespace falak::cli {
 
-const char* const kBantuanBatch =
-    "  falak semua --tahun 1445 --bulan 8 [--markaz NAMA] [--json] [--xlsx BERKAS]\n"
-    "                                  ijtima' dan awal bulan menurut semua kitab\n"
-    "  falak setahun --kitab SN|semua --tahun 1445 [--markaz NAMA] [--json] [--xlsx BERKAS]\n"
-    "                                  dua belas bulan setahun menurut satu kitab (atau semua)\n"
-    "                                  --xlsx: lembar hisab dan kesimpulannya ke berkas .xlsx\n";
-
 namespace {
-
-struct Pilihan {
-    std::string kitab;
-    std::string tahun;
-    std::string bulan;
-    std::string tempat = "Pasuruan";
-    bool json = false;
-    std::string xlsx;  // the workbook to write, when asked
-};
-
-// Reads the options; a message and false when one is wrong.
-bool bacaPilihan(const std::string& perintah, const std::vector<std::string>& argumen,
-                 const std::vector<std::string>& boleh, Pilihan& p, std::ostream& err) {
-    for (size_t i = 0; i < argumen.size(); ++i) {
-        const std::string& a = argumen[i];
-        if (a == "--json") {
-            p.json = true;
-            continue;
-        }
-        if (std::find(boleh.begin(), boleh.end(), a) == boleh.end()) {
-            err << "falak " << perintah << ": pilihan \"" << a << "\" tidak dikenal\n";
-            return false;
-        }
-        if (i + 1 >= argumen.size()) {
-            err << "falak " << perintah << ": " << a << " butuh isian\n";
-            return false;
-        }
-        const std::string& v = argumen[++i];
-        if (a == "--kitab") p.kitab = v;
-        else if (a == "--tahun") p.tahun = v;
-        else if (a == "--bulan") p.bulan = v;
-        else if (a == "--xlsx") p.xlsx = v;
-        else p.tempat = v;
-    }
-    if (p.tahun.empty() || !AdalahAngka(p.tahun) || !BulatGenap32(ValAngka(p.tahun)) ||
-        ValAngka(p.tahun) != BulatGenap(ValAngka(p.tahun))) {
-        err << "falak " << perintah << ": tahun \"" << p.tahun
-            << "\" bukan tahun Hijriyah yang sah (tulislah misalnya --tahun 1445)\n";
-        return false;
-    }
-    return true;
-}
 
 // Width of a text as the terminal shows it: one column a character.
 size_t lebar(const std::string& s) {
@@ -138,36 +90,27 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
     out << "\n  ]\n}\n";
 }
 
-using Jalankan = std::function<Workspace::HasilBatch(Workspace&, Workspace::Keluaran)>;
+using Jalankan = std::function<Workspace::HasilBatch(Workspace&, const std::string& tempat, Workspace::Keluaran)>;
 
-int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lokasi, bool kolomBulan,
-             const Jalankan& batch, std::ostream& out, std::ostream& err) {
-    ClsConnection koneksi(lokasi);
-    const std::string masalah = LaporanMasalah(koneksi.masalah());
-    err << masalah;  // one line a table, each ended
-    if (!CariTempat(koneksi.Daerah, p.tempat)) {
-        err << "falak " << perintah << ": daerah \"" << p.tempat
-            << "\" tidak ada di daftar tempat (lihat: falak tempat daftar)\n";
-        return 2;
-    }
+int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalankan& batch) {
+    ClsConnection koneksi(l.lokasi);
     Workspace ws(koneksi);
+    l.err << LaporanMasalah(ws.masalahTabel());  // one line a table, each ended
+    const auto tempat = CariTempat(koneksi.Daerah, a.teks("--markaz"));
+    if (!tempat)
+        throw SalahPakai{"daerah \"" + a.teks("--markaz") + "\" tidak ada di daftar tempat (lihat: falak tempat daftar)"};
     // Sheets are painted only for a workbook.
     const Workspace::HasilBatch h =
-        batch(ws, p.xlsx.empty() ? Workspace::Keluaran::Ringkas : Workspace::Keluaran::Lembar);
-    if (h.pesan) {
-        err << h.pesan->judul << ": " << h.pesan->teks << "\n";
-        return 1;
-    }
-    if (!p.xlsx.empty()) {
+        batch(ws, tempat->nama, a.ada("--xlsx") ? Workspace::Keluaran::Lembar : Workspace::Keluaran::Ringkas);
+    if (h.pesan) return Tolak(a, l, h.pesan->teks);
+    if (a.ada("--xlsx")) {
         std::vector<const LembarKerja*> semua;
-        for (const auto& l : ws.lembar) semua.push_back(l.get());
-        if (const std::string salah = EksporExcel(semua, true, koneksi, p.xlsx); !salah.empty()) {
-            err << "falak " << perintah << ": " << salah << "\n";
-            return 1;
-        }
+        for (const auto& lembar : ws.lembar) semua.push_back(lembar.get());
+        if (const std::string salah = EksporExcel(semua, true, koneksi, a.teks("--xlsx")); !salah.empty())
+            return Tolak(a, l, salah);
     }
-    if (p.json) {
-        tulisJson(out, ws, h.ringkas);
+    if (a.ada("--json")) {
+        tulisJson(l.out, ws, h.ringkas);
         return 0;
     }
     std::vector<Baris> tabel;
@@ -181,47 +124,25 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
         if (kolomBulan) b.insert(b.begin(), std::string(kBarisBulan[static_cast<size_t>(r.bulan - 1)]).substr(5));
         tabel.push_back(std::move(b));
     }
-    out << "Tempat: " << ws.sesi.tempat.nama << "\n";
-    tulisTabel(out, tabel);
+    l.out << "Tempat: " << IsolasiNama(ws.sesi.tempat.nama) << "\n";
+    tulisTabel(l.out, tabel);
     return 0;
 }
 
 }  // namespace
 
-int perintahSemua(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                  std::ostream& err) {
-    Pilihan p;
-    if (!bacaPilihan("semua", argumen, {"--tahun", "--bulan", "--markaz", "--tempat", "--xlsx"}, p, err)) return 2;
-    const double bulan = ValAngka(p.bulan);
-    if (!AdalahAngka(p.bulan) || bulan != BulatGenap(bulan) || bulan < 1 || bulan > 12) {
-        err << "falak semua: bulan \"" << p.bulan << "\" tidak ada; pilihlah 1 sampai 12 (1 Muharrom ... 12 Dzulhijjah)\n";
-        return 2;
-    }
-    return jalankan("semua", p, lokasi, false,
-                    [&](Workspace& ws, Workspace::Keluaran keluaran) {
-                        return ws.mnuProsesAllSub(p.tahun, static_cast<int>(bulan), p.tempat, keluaran);
-                    },
-                    out, err);
+int perintahSemua(const Argumen& a, const Lingkungan& l) {
+    return jalankan(a, l, false, [&](Workspace& ws, const std::string& tempat, Workspace::Keluaran keluaran) {
+        return ws.mnuProsesAllSub(a.teks("--tahun"), a.bulat("--bulan"), tempat, keluaran);
+    });
 }
 
-int perintahSetahun(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                    std::ostream& err) {
-    Pilihan p;
-    p.kitab = "SN";
-    if (!bacaPilihan("setahun", argumen, {"--kitab", "--tahun", "--markaz", "--tempat", "--xlsx"}, p, err)) return 2;
-    const bool semua = p.kitab == "semua";
-    if (!semua && !CariModul(p.kitab)) {
-        std::string daftar;
-        for (const EntriModul* k : Workspace::kitabTerdaftar()) daftar += (daftar.empty() ? "" : ", ") + std::string(k->kode);
-        err << "falak setahun: kitab \"" << p.kitab << "\" tidak dikenal. Pilihan: " << daftar << ", semua\n";
-        return 2;
-    }
-    return jalankan("setahun", p, lokasi, true,
-                    [&](Workspace& ws, Workspace::Keluaran keluaran) {
-                        return semua ? ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat, keluaran)
-                                     : ws.mnu12BulanSub(p.kitab, p.tahun, p.tempat, keluaran);
-                    },
-                    out, err);
+int perintahSetahun(const Argumen& a, const Lingkungan& l) {
+    const std::string kitab = a.teks("--kitab");
+    return jalankan(a, l, true, [&](Workspace& ws, const std::string& tempat, Workspace::Keluaran keluaran) {
+        return kitab == "semua" ? ws.duaBelasBulanSemuaKitab(a.teks("--tahun"), tempat, keluaran)
+                                : ws.mnu12BulanSub(kitab, a.teks("--tahun"), tempat, keluaran);
+    });
 }
 
 }  // namespace falak::cli

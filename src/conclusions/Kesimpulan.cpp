@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include "core/Arah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "core/Maghrib.h"
@@ -349,7 +350,7 @@ std::string ClsKesimpulan::NurHilal(const Nilai& nur) {
 
 std::string ClsKesimpulan::baris(std::string_view nama, int lintangDerajat, int lintangMenit, int tandaLintang,
                                  int bujurDerajat, int bujurMenit, int tandaBujur) {
-    return rapikan(gabung({rapikan(std::string(nama)), std::to_string(lintangDerajat) + "°",
+    return rapikan(gabung({IsolasiNama(rapikan(std::string(nama))), std::to_string(lintangDerajat) + "°",
                            std::to_string(lintangMenit) + "'" + (tandaLintang != 0 ? " LU |" : " LS |"),
                            std::to_string(bujurDerajat) + "°",
                            std::to_string(bujurMenit) + "'" + (tandaBujur != 0 ? " BT" : " BB")}));
