@@ -58,6 +58,11 @@ const std::vector<Opsi>& DaftarOpsi() {
          .bawaan = "Pasuruan", .alias = "--tempat"},
         {"--json", "", "keluaran JSON"},
         {"--xlsx", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .xlsx"},
+#ifdef FALAK_PDF
+        {"--pdf", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .pdf (satu halaman A4)"},
+#else
+        {"--pdf", "BERKAS", "tidak tersedia: falak ini dibangun tanpa Qt"},
+#endif
         {"--batch", "", "operasi satu per baris dari masukan baku"},
         {"--nama", "BARU", "nama baru tempat itu"},
         {"--lintang", "SUDUT", "lintang, mis. \"7 39 LS\" (derajat, menit, LU/LS)"},
@@ -73,7 +78,7 @@ const std::vector<Opsi>& DaftarOpsi() {
 const std::vector<Perintah>& DaftarPerintah() {
     static const std::vector<Perintah> daftar = {
         {"hisab", "", 0, 0,
-         {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
+         {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--pdf"}},
          "ijtima' dan hilal akhir bulan itu menurut satu kitab: lembar kerja dan kesimpulannya", perintahHisab},
         {"semua", "", 0, 0, {{"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
          "ijtima' dan awal bulan menurut semua kitab, satu baris sekitab", perintahSemua},

@@ -40,7 +40,8 @@ std::string PeriksaIsi(const Tabel& tabel) {
     if (tabel.jumlahBaris() == 0) return "tabel kosong, tidak ada baris isian";
     const auto& kolom = tabel.kolom();
     for (size_t k = 0; k < kolom.size(); ++k) {
-        if (kolom[k] == "mn" || kolom[k] == "IsiText" || kolom[k].starts_with("Nama")) continue;
+        // Texts: mansion names, labels, and the sign ("+" or "-") of the daqa'iq tafawut.
+        if (kolom[k] == "mn" || kolom[k] == "IsiText" || kolom[k] == "Tanda" || kolom[k].starts_with("Nama")) continue;
         for (size_t b = 0; b < tabel.jumlahBaris(); ++b) {
             const std::string_view sel = tabel.sel(b, k);
             if (!sel.empty() && !AdalahAngka(sel))

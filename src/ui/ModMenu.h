@@ -39,7 +39,7 @@ struct ItemMenu {
     std::string_view judul;
     QKeySequence pintasan{};
     bool bolehSaatSibuk = false;  // stays enabled while a job runs: it touches no session
-    bool diisiJendela = false;    // a menu that the window fills as it goes: kept while empty
+    bool diisiJendela = false;    // a menu that the window fills as it goes: kept, hidden at first
     AksiMenu aksi = nullptr;
     // Called when the current sheet changes or a job ends, for an item whose caption or
     // state follows the sheet in front.
@@ -72,6 +72,10 @@ struct MenuTerbangun {
 
 // Builds the menus of the list on the bar, for the modules that the window's session has.
 MenuTerbangun BangunMenu(FrmHisab& jendela, QMenuBar& bar, const std::vector<ItemMenu>& daftar);
+
+// The command that runs a module of this kind, from its line on the list; none while that
+// work has not landed. The tree of books runs its items by it too.
+AksiModul AksiGarapan(Garapan garapan);
 
 // The export guard: true when a work sheet of a run exists; else it tells the user so.
 bool AdaGarapan(FrmHisab& jendela);
