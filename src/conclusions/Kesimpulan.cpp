@@ -46,7 +46,7 @@ std::string rapikan(std::string s) {
 }
 
 // "The value without field 1, as decimal degrees".
-double tanpaBuruj(const Nilai& v) { return NilaiDesimal(3, NolkanBuruj(v)); }
+double tanpaBuruj(const Nilai& v) { return NilaiDesimal(JenisBusur, NolkanBuruj(v)); }
 
 // The sign of the equation of time by the civil calendar: negative in these stretches.
 bool tafawutNegatif(int bulan, int hari) {
@@ -64,10 +64,13 @@ constexpr std::array<const char*, 12> kKolomTafawut = {"Jan", "Peb", "Mar", "Apr
                                                        "juli", "Agus", "Sept", "Okt", "Nop", "Des"};
 
 // A time as an arc value of hours (Darojah), minutes, seconds, and back.
-Nilai jamKeNilai(const Waktu& w) { return DlorbuSittin(0, 0, 0, std::llabs(w.detik()), 0, w.detik() < 0 ? 0 : 1, 3); }
+Nilai jamKeNilai(const Waktu& w) {
+    return DlorbuSittin(0, 0, 0, std::llabs(w.detik()), 0, w.detik() < 0 ? 0 : 1, ModusDarojah);
+}
 
 Waktu nilaiKeJam(const Nilai& v) {
-    const int64_t detik = int64_t{AmbilTingkat(v, 2)} * 3600 + AmbilTingkat(v, 3) * 60 + AmbilTingkat(v, 4);
+    const int64_t detik = int64_t{AmbilTingkat(v, MedanDarojah)} * 3600 + AmbilTingkat(v, MedanDaqiqoh) * 60 +
+                          AmbilTingkat(v, MedanTsaniyah);
     return Waktu::dari(0, 0, AmbilTanda(v) == 0 ? -detik : detik);
 }
 
@@ -122,7 +125,7 @@ std::optional<Nilai> ClsKesimpulan::CariTHM(int32_t tahun, int32_t bulan, int32_
     const int dicari = minggu(hari);
     const auto akhir = ConvertToHijri(tahun, bulan, umurBulanHijri(tahun, bulan));
     if (!akhir) return std::nullopt;
-    if (minggu(AmbilTingkat(*akhir, 10)) == dicari) return akhir;
+    if (minggu(AmbilTingkat(*akhir, MedanHari)) == dicari) return akhir;
     for (int i = 25; i <= 34; ++i) {
         int32_t m = bulan + 12, y = tahun - 1, d = i;
         if (d > 30) {
@@ -135,14 +138,15 @@ std::optional<Nilai> ClsKesimpulan::CariTHM(int32_t tahun, int32_t bulan, int32_
         }
         const auto t = ConvertToHijri(y, m, d);
         if (!t) return std::nullopt;
-        if (minggu(AmbilTingkat(*t, 10)) == dicari) return t;
+        if (minggu(AmbilTingkat(*t, MedanHari)) == dicari) return t;
     }
     return Nilai();
 }
 
 int16_t ClsKesimpulan::CekHijriHaqiqi(const Nilai& a, const Nilai& b) {
-    const auto t = ConvertToHijri(AmbilTingkat(b, 6), AmbilTingkat(b, 7), AmbilTingkat(b, 8));
-    return static_cast<int16_t>(AmbilTingkat(a, 8) - (t ? AmbilTingkat(*t, 8) : 0));
+    const auto t =
+        ConvertToHijri(AmbilTingkat(b, MedanTahun), AmbilTingkat(b, MedanBulan), AmbilTingkat(b, MedanTanggal));
+    return static_cast<int16_t>(AmbilTingkat(a, MedanTanggal) - (t ? AmbilTingkat(*t, MedanTanggal) : 0));
 }
 
 std::string ClsKesimpulan::FullM(const Nilai& tanggal, std::string_view jam, bool bulanHijri) const {
@@ -151,11 +155,11 @@ std::string ClsKesimpulan::FullM(const Nilai& tanggal, std::string_view jam, boo
         const std::string baris = kBarisBulan[static_cast<size_t>(sesi_.barisBulan % 12)];
         bulan = (baris.size() > 4 ? baris.substr(4) : std::string()) + " :";
     }
-    const std::string hari = NamaHari(AmbilTingkat(tanggal, 10), jam, bulanHijri);
-    const std::string pasaran = NamaPas(AmbilTingkat(tanggal, 9)) + ",";
-    const std::string tgl = std::to_string(AmbilTingkat(tanggal, 8));
-    const std::string tahun = std::to_string(AmbilTingkat(tanggal, 6)) + " M.";
-    return rapikan(gabung({bulan, hari, pasaran, tgl, ManaBln(AmbilTingkat(tanggal, 7)), tahun}));
+    const std::string hari = NamaHari(AmbilTingkat(tanggal, MedanHari), jam, bulanHijri);
+    const std::string pasaran = NamaPas(AmbilTingkat(tanggal, MedanPasaran)) + ",";
+    const std::string tgl = std::to_string(AmbilTingkat(tanggal, MedanTanggal));
+    const std::string tahun = std::to_string(AmbilTingkat(tanggal, MedanTahun)) + " M.";
+    return rapikan(gabung({bulan, hari, pasaran, tgl, ManaBln(AmbilTingkat(tanggal, MedanBulan)), tahun}));
 }
 
 std::string ClsKesimpulan::NamaHari(int hari, std::string_view jam, bool bendera) {
@@ -195,14 +199,18 @@ Waktu ClsKesimpulan::keZona(int bulan, int hari, Waktu waktu) const {
     const int detik = BacaBulat(tabel, kolom + "2");
 
     const Tempat& t = sesi_.tempat;
-    const Nilai bujur = DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), 3);
-    const Nilai selisih = KurangNilai(3, 3, 3, DlorbuSittin(0, 105, 0, 0, 0, 1, 3), bujur);
-    const Nilai jamBujur = BagiNilai(3, 3, 3, selisih, DlorbuSittin(0, 15, 0, 0, 0, 1, 3)).value_or(selisih);
-    const Nilai zona = DlorbuSittin(0, std::abs(t.zona - 7), 0, 0, 0, t.zona < 7 ? 0 : 1, 3);
-    const Nilai tafawut = DlorbuSittin(0, 0, menit, detik, 0, tafawutNegatif(bulan, hari) ? 0 : 1, 3);
+    const Nilai bujur =
+        DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), ModusDarojah);
+    const Nilai selisih =
+        KurangNilai(JenisBusur, TandaIkut, ModusDarojah, DlorbuSittin(0, 105, 0, 0, 0, 1, ModusDarojah), bujur);
+    const Nilai jamBujur =
+        BagiNilai(JenisBusur, TandaIkut, ModusDarojah, selisih, DlorbuSittin(0, 15, 0, 0, 0, 1, ModusDarojah))
+            .value_or(selisih);
+    const Nilai zona = DlorbuSittin(0, std::abs(t.zona - 7), 0, 0, 0, t.zona < 7 ? 0 : 1, ModusDarojah);
+    const Nilai tafawut = DlorbuSittin(0, 0, menit, detik, 0, tafawutNegatif(bulan, hari) ? 0 : 1, ModusDarojah);
 
-    Nilai hasil = KurangNilai(3, 3, 3, jamKeNilai(waktu), tafawut);
-    hasil = TambahNilai(3, 3, 3, hasil, jamBujur, zona);
+    Nilai hasil = KurangNilai(JenisBusur, TandaIkut, ModusDarojah, jamKeNilai(waktu), tafawut);
+    hasil = TambahNilai(JenisBusur, TandaIkut, ModusDarojah, hasil, jamBujur, zona);
     return nilaiKeJam(hasil);
 }
 
@@ -217,7 +225,7 @@ std::string ClsKesimpulan::kataZona() const {
 
 std::string ClsKesimpulan::JamIjtima(std::string_view jam, std::string_view menit, const Nilai& tanggal) {
     const Waktu t = Waktu::dari(static_cast<int64_t>(ValAngka(jam)), static_cast<int64_t>(ValAngka(menit)), 0);
-    const Waktu z = keZona(AmbilTingkat(tanggal, 7), AmbilTingkat(tanggal, 8), t);
+    const Waktu z = keZona(AmbilTingkat(tanggal, MedanBulan), AmbilTingkat(tanggal, MedanTanggal), t);
     return rapikan(gabung({t.format("hh.mm") + " WIS, ", z.format("hh.mm"), kataZona()}));
 }
 
@@ -228,24 +236,25 @@ std::string ClsKesimpulan::JamIjtimaTQQ(std::string_view waktuWis, std::string_v
 
 std::string ClsKesimpulan::SaatuMaghribS(const Nilai& matahari) {
     const Nilai nol("00 00 00 00 00 1");
-    const Nilai x = TrigNilai(1, 1, matahari, false).value_or(nol);
-    const Nilai y = KaliNilai(3, 3, 1, x, Nilai("0 0 23 52 0 1")).value_or(nol);
-    const Nilai v = HitungDeret(3, 1, 1, y, 0, nol, 0, nol, 0, nol, 0, nol).value_or(nol);
-    const int menit = AmbilTingkat(v, 3) + AmbilTingkat(v, 4) / 60;
-    std::string out = std::to_string(AmbilTingkat(v, 2)) + "°";
+    const Nilai x = TrigNilai(1, ModusBuruj, matahari, false).value_or(nol);
+    const Nilai y = KaliNilai(JenisBusur, TandaIkut, ModusBuruj, x, Nilai("0 0 23 52 0 1")).value_or(nol);
+    const Nilai v = HitungDeret(TandaIkut, ModusBuruj, 1, y, 0, nol, 0, nol, 0, nol, 0, nol).value_or(nol);
+    const int menit = AmbilTingkat(v, MedanDaqiqoh) + AmbilTingkat(v, MedanTsaniyah) / 60;
+    std::string out = std::to_string(AmbilTingkat(v, MedanDarojah)) + "°";
     if (menit != 0) out += std::to_string(menit) + "'";
     return out + (AmbilTanda(v) != 0 ? " Di sebelah utara titik barat" : " Di sebelah selatan titik barat");
 }
 
 std::string ClsKesimpulan::AzimutSQ(const Nilai& azimut) {
-    std::string out = std::to_string(AmbilTingkat(azimut, 2)) + "°";
-    if (AmbilTingkat(azimut, 3) != 0) out += std::to_string(AmbilTingkat(azimut, 3)) + "'";
+    std::string out = std::to_string(AmbilTingkat(azimut, MedanDarojah)) + "°";
+    if (AmbilTingkat(azimut, MedanDaqiqoh) != 0) out += std::to_string(AmbilTingkat(azimut, MedanDaqiqoh)) + "'";
     return out + (AmbilTanda(azimut) != 0 ? " Di sebelah utara titik barat" : " Di sebelah selatan titik barat");
 }
 
 std::string ClsKesimpulan::Kemiringan(const Nilai& a, const Nilai& b, const Nilai& c, const Nilai& d) {
     if (a.teks() == b.teks()) return "Terlentang";
-    const double p0 = NilaiDesimal(3, a), p1 = NilaiDesimal(3, b), p2 = NilaiDesimal(3, c), p3 = NilaiDesimal(3, d);
+    const double p0 = NilaiDesimal(JenisBusur, a), p1 = NilaiDesimal(JenisBusur, b), p2 = NilaiDesimal(JenisBusur, c),
+                 p3 = NilaiDesimal(JenisBusur, d);
     if (!(2 * p3 > p2)) return "Tegak lurus";
     const int s = AmbilTanda(a);
     if (BulatGenap(p0) > BulatGenap(p1) && AmbilTanda(a) == AmbilTanda(b))
@@ -256,9 +265,9 @@ std::string ClsKesimpulan::Kemiringan(const Nilai& a, const Nilai& b, const Nila
 std::string ClsKesimpulan::IrtifaHilal(const Nilai& tinggi, bool bertanda) {
     const int g = bertanda ? AmbilTanda(tinggi) : 1;
     const std::string meter = FormatTetap(tanpaBuruj(tinggi) * 0.72, 2) + " m";
-    const int m = AmbilTingkat(tinggi, 3) + AmbilTingkat(tinggi, 4) / 30;
+    const int m = AmbilTingkat(tinggi, MedanDaqiqoh) + AmbilTingkat(tinggi, MedanTsaniyah) / 30;
     std::string menit = m == 0 ? "" : std::to_string(m) + "'";
-    int derajat = AmbilTingkat(tinggi, 2);
+    int derajat = AmbilTingkat(tinggi, MedanDarojah);
     if (menit == "60'") {
         menit.clear();
         derajat += 1;
@@ -268,13 +277,13 @@ std::string ClsKesimpulan::IrtifaHilal(const Nilai& tinggi, bool bertanda) {
 }
 
 std::string ClsKesimpulan::ArahHilal(const Nilai& tempatHilal) {
-    const double x = NilaiDesimal(3, tempatHilal);
+    const double x = NilaiDesimal(JenisBusur, tempatHilal);
     const double phi = sesi_.tempat.lintangDerajat + sesi_.tempat.lintangMenit / 60.0;
     return (x - 180 < phi || x > 360 - phi) ? " Di utara" : " Di selatan";
 }
 
 std::string ClsKesimpulan::KeadaanHilal(const Nilai& matahari) {
-    const int b = AmbilTingkat(matahari, 1);
+    const int b = AmbilTingkat(matahari, MedanBuruj);
     const double d = tanpaBuruj(matahari);
     const char* c1 = ((b == 11 || b == 5) && d > 26) ? "1" : "2";
     const char* c2 = ((b == 0 || b == 6) && d < 6) ? "1" : "2";
@@ -285,17 +294,18 @@ std::string ClsKesimpulan::KeadaanHilal(const Nilai& matahari) {
 
 std::string ClsKesimpulan::MuktsulHilal(const Nilai& lama) {
     if (AmbilTanda(lama) == 0) return "00.00 Menit";
-    const Waktu w = Waktu::dari(AmbilTingkat(lama, 2), AmbilTingkat(lama, 3), AmbilTingkat(lama, 4));
+    const Waktu w = Waktu::dari(AmbilTingkat(lama, MedanDarojah), AmbilTingkat(lama, MedanDaqiqoh),
+                                AmbilTingkat(lama, MedanTsaniyah));
     const std::string out = w.format("hh.mm") + " Menit";
     return out == "00.00 Menit" ? w.format("hh.mm.ss") + " Menit" : out;
 }
 
 Waktu ClsKesimpulan::WaktuGurub(const Nilai& matahari, std::string& gurub, std::string& terbit) {
     // Field 2 and 3 of the sun's place are its sign and the degree within it.
-    const int derajat = AmbilTingkat(matahari, 2) * 30 + AmbilTingkat(matahari, 3);
+    const int derajat = AmbilTingkat(matahari, MedanDarojah) * 30 + AmbilTingkat(matahari, MedanDaqiqoh);
     const SaatMatahari saat = WaktuMaghrib(derajat, 0, sesi_.tempat);
     const Nilai tanggal(TanggalDariBuruj(matahari).value_or(""));
-    const int bulan = AmbilTingkat(tanggal, 2), hari = AmbilTingkat(tanggal, 3);
+    const int bulan = AmbilTingkat(tanggal, MedanDarojah), hari = AmbilTingkat(tanggal, MedanDaqiqoh);
     const std::string zona = kataZona().substr(1);
     gurub = rapikan(gabung({saat.terbenam.format("hh.mm"), "WIS", keZona(bulan, hari, saat.terbenam).format("hh.mm"), zona}));
     terbit = rapikan(gabung({saat.terbit.format("hh.mm"), "WIS", keZona(bulan, hari, saat.terbit).format("hh.mm"), zona}));
@@ -303,9 +313,9 @@ Waktu ClsKesimpulan::WaktuGurub(const Nilai& matahari, std::string& gurub, std::
 }
 
 std::string ClsKesimpulan::NurHilal(const Nilai& nur) {
-    const std::string cm = FormatTetap(NilaiDesimal(3, nur) * 0.72, 3) + " cm";
-    const int m = AmbilTingkat(nur, 3);
-    const int n = AmbilTingkat(nur, 2);
+    const std::string cm = FormatTetap(NilaiDesimal(JenisBusur, nur) * 0.72, 3) + " cm";
+    const int m = AmbilTingkat(nur, MedanDaqiqoh);
+    const int n = AmbilTingkat(nur, MedanDarojah);
     std::string pita;
     switch (m) {
         case 1: pita = "1/60 Ushbu'  /"; break;

@@ -9,16 +9,17 @@ namespace {
 // The arcsine of a value that holds a sine, as a value; zero when there is none.
 Nilai arcsin(const Nilai& sinus) {
     const Nilai nol("00 00 00 00 00 1");
-    return HitungDeret(3, 1, 1, sinus, 0, nol, 0, nol, 0, nol, 0, nol).value_or(nol);
+    return HitungDeret(TandaIkut, ModusBuruj, 1, sinus, 0, nol, 0, nol, 0, nol, 0, nol).value_or(nol);
 }
 
-Nilai sinus(const Nilai& v) { return TrigNilai(1, 1, v, false).value_or(Nilai("00 00 00 00 00 1")); }
-Nilai kosinus(const Nilai& v) { return TrigNilai(2, 1, v, false).value_or(Nilai("00 00 00 00 00 1")); }
+Nilai sinus(const Nilai& v) { return TrigNilai(1, ModusBuruj, v, false).value_or(Nilai("00 00 00 00 00 1")); }
+Nilai kosinus(const Nilai& v) { return TrigNilai(2, ModusBuruj, v, false).value_or(Nilai("00 00 00 00 00 1")); }
 
 // Hours and minutes of an alamah value; the seconds lift the minute by half-even rounding.
 Waktu jamMenit(const Nilai& alamah) {
-    const int jam = AmbilTingkat(alamah, 11);
-    const int menit = AmbilTingkat(alamah, 12) + static_cast<int>(BulatGenap(AmbilTingkat(alamah, 13) / 60.0));
+    const int jam = AmbilTingkat(alamah, MedanJam);
+    const int menit =
+        AmbilTingkat(alamah, MedanMenit) + static_cast<int>(BulatGenap(AmbilTingkat(alamah, MedanDetik) / 60.0));
     return Waktu::dari(jam, menit, 0);
 }
 
@@ -26,25 +27,34 @@ Waktu jamMenit(const Nilai& alamah) {
 
 SaatMatahari WaktuMaghrib(int darojat, int daqiqoh, const Tempat& tempat) {
     if (darojat * 60 + daqiqoh > 360 * 60) darojat -= 360;
-    const Nilai enamPuluh = DlorbuSittin(0, 60, 0, 0, 0, 1, 1);
+    const Nilai enamPuluh = DlorbuSittin(0, 60, 0, 0, 0, 1, ModusBuruj);
     const Nilai lintang = DlorbuSittin(0, tempat.lintangDerajat, tempat.lintangMenit, 0, 0,
-                                       AmbilTanda(Nilai(tempat.tandaLintang)), 1);
-    const Nilai bujurMatahari = DlorbuSittin(0, darojat, daqiqoh, 0, 0, 1, 1);
-    const Nilai mailKulli = DlorbuSittin(0, 23, 27, 0, 0, 1, 1);
+                                       AmbilTanda(Nilai(tempat.tandaLintang)), ModusBuruj);
+    const Nilai bujurMatahari = DlorbuSittin(0, darojat, daqiqoh, 0, 0, 1, ModusBuruj);
+    const Nilai mailKulli = DlorbuSittin(0, 23, 27, 0, 0, 1, ModusBuruj);
 
-    const Nilai deklinasi = arcsin(KaliNilai(3, 3, 1, sinus(bujurMatahari), sinus(mailKulli)).value_or(Nilai()));
-    const Nilai a = KaliNilai(3, 3, 1, KaliNilai(3, 3, 1, sinus(deklinasi), sinus(lintang)).value_or(Nilai()), enamPuluh)
-                        .value_or(Nilai());
-    const Nilai b = KaliNilai(3, 3, 1, KaliNilai(3, 3, 1, kosinus(deklinasi), kosinus(lintang)).value_or(Nilai()),
-                              enamPuluh)
-                        .value_or(Nilai());
-    const Nilai x = arcsin(BagiNilai(3, 3, 1, a, b).value_or(Nilai("00 00 00 00 00 1")));
-    const Nilai jamLebih = BagiNilai(3, 3, 1, x, DlorbuSittin(0, 15, 0, 0, 0, 1, 1)).value_or(Nilai("00 00 00 00 00 1"));
+    const Nilai deklinasi =
+        arcsin(KaliNilai(JenisBusur, TandaIkut, ModusBuruj, sinus(bujurMatahari), sinus(mailKulli)).value_or(Nilai()));
+    const Nilai a =
+        KaliNilai(JenisBusur, TandaIkut, ModusBuruj,
+                  KaliNilai(JenisBusur, TandaIkut, ModusBuruj, sinus(deklinasi), sinus(lintang)).value_or(Nilai()),
+                  enamPuluh)
+            .value_or(Nilai());
+    const Nilai b =
+        KaliNilai(JenisBusur, TandaIkut, ModusBuruj,
+                  KaliNilai(JenisBusur, TandaIkut, ModusBuruj, kosinus(deklinasi), kosinus(lintang)).value_or(Nilai()),
+                  enamPuluh)
+            .value_or(Nilai());
+    const Nilai x = arcsin(BagiNilai(JenisBusur, TandaIkut, ModusBuruj, a, b).value_or(Nilai("00 00 00 00 00 1")));
+    const Nilai jamLebih = BagiNilai(JenisBusur, TandaIkut, ModusBuruj, x, DlorbuSittin(0, 15, 0, 0, 0, 1, ModusBuruj))
+                               .value_or(Nilai("00 00 00 00 00 1"));
 
-    const Nilai enamJam = DlorbuSittin(0, 6, 0, 0, 0, 1, 1);
-    const Nilai ihtiyath = DlorbuSittin(0, 0, 3, 30, 0, 1, 1);
-    const Nilai terbenam = TambahNilai(3, 3, 1, TambahNilai(3, 3, 1, enamJam, jamLebih), ihtiyath);
-    const Nilai terbit = KurangNilai(3, 3, 1, KurangNilai(3, 3, 1, enamJam, jamLebih), ihtiyath);
+    const Nilai enamJam = DlorbuSittin(0, 6, 0, 0, 0, 1, ModusBuruj);
+    const Nilai ihtiyath = DlorbuSittin(0, 0, 3, 30, 0, 1, ModusBuruj);
+    const Nilai terbenam = TambahNilai(JenisBusur, TandaIkut, ModusBuruj,
+                                       TambahNilai(JenisBusur, TandaIkut, ModusBuruj, enamJam, jamLebih), ihtiyath);
+    const Nilai terbit = KurangNilai(JenisBusur, TandaIkut, ModusBuruj,
+                                     KurangNilai(JenisBusur, TandaIkut, ModusBuruj, enamJam, jamLebih), ihtiyath);
     return {jamMenit(CUmumToAlamah(terbenam, false)), jamMenit(CUmumToAlamah(terbit, false))};
 }
 

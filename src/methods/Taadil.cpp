@@ -69,9 +69,9 @@ Kolom kolomIqlim(int lintangDerajat) {
 
 // The key of Syatar1, wrapped into 1 .. the table's top; no key for a step of 0.
 std::optional<int64_t> kunciSyatar(int kode, const Nilai& v, int langkah, bool jam) {
-    const int64_t f1 = AmbilTingkat(v, 1);
-    const int64_t f2 = AmbilTingkat(v, 2);
-    const int64_t f3 = AmbilTingkat(v, 3);
+    const int64_t f1 = AmbilTingkat(v, MedanBuruj);
+    const int64_t f2 = AmbilTingkat(v, MedanDarojah);
+    const int64_t f3 = AmbilTingkat(v, MedanDaqiqoh);
     int64_t kunci;
     int64_t putaran;
     if (jam) {
@@ -106,15 +106,15 @@ Nilai darojah(int64_t d, int tanda, int modus) { return DlorbuSittin(0, d, 0, 0,
 
 // The term of the interpolation: offset x (difference / a value of n degrees), products in form 2.
 Hasil suku(const Nilai& selisihArgumen, const Nilai& selisihEntri, int64_t n) {
-    const Hasil bagi = BagiNilai(3, 3, 2, selisihEntri, darojah(n, 1, 2));
+    const Hasil bagi = BagiNilai(JenisBusur, TandaIkut, ModusLingkaran, selisihEntri, darojah(n, 1, 2));
     if (!bagi) return std::nullopt;
-    return KaliNilai(3, 3, 2, selisihArgumen, *bagi);
+    return KaliNilai(JenisBusur, TandaIkut, ModusLingkaran, selisihArgumen, *bagi);
 }
 
 // The degree of longitude of the current row of the right ascension table, from its key.
 Nilai bujurBaris(const Tabel& t) {
     const int64_t cari = BulatGenap32(ValAngka(t.baca("Cari").value_or(""))).value_or(0);
-    return DlorbuSittin(cari / 30, cari % 30, 0, 0, 0, 1, 1);
+    return DlorbuSittin(cari / 30, cari % 30, 0, 0, 0, 1, ModusBuruj);
 }
 
 // The eclipse tables: key column, the key that stands for 0, and the columns of each code.
@@ -141,7 +141,7 @@ constexpr int64_t kSelangGanda = 20;   // minutes of the first argument per row
 constexpr int64_t kLangkahGanda = 65;  // keys per row of the first argument
 constexpr int64_t kPuncakGanda = 650;
 
-int64_t menit(const Nilai& v) { return int64_t{AmbilTingkat(v, 2)} * 60 + AmbilTingkat(v, 3); }
+int64_t menit(const Nilai& v) { return int64_t{AmbilTingkat(v, MedanDarojah)} * 60 + AmbilTingkat(v, MedanDaqiqoh); }
 
 }  // namespace
 
@@ -168,20 +168,22 @@ Nilai ClsTaadil::Syatar1(int kode, const Nilai& nilai, int langkah, bool jam) {
 
 Nilai ClsTaadil::TaadilKusfM(int kode, const Nilai& nilai, int langkah, bool jam, int& langkahIqlim) {
     if (langkah == 12) {
-        const Nilai v = TambahNilai(3, 3, 1, nilai, DlorbuSittin(0, 0, 12, 0, 0, nilai.tanda(), 1));
+        const Nilai v = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, nilai,
+                                    DlorbuSittin(0, 0, 12, 0, 0, nilai.tanda(), ModusBuruj));
         return Syatar1(kode, v, 12, jam);
     }
     if (kode == 39) {
         // The latitude tables are not evenly spaced: each row names the argument of the next.
         const auto m = trb_.baca("MahFudIqlim");
         if (!m) return {};
-        const auto berikut = DlorbuSittin("0", *m, "0", "0", "0", 1, 3);
+        const auto berikut = DlorbuSittin("0", *m, "0", "0", "0", 1, ModusDarojah);
         if (!berikut) return {};
-        const Nilai sini = DlorbuSittin(AmbilTingkat(nilai, 1), AmbilTingkat(nilai, 2), 0, 0, 0, 1, 3);
-        langkahIqlim = AmbilTingkat(KurangNilai(3, 3, 3, *berikut, sini), 2);
+        const Nilai sini =
+            DlorbuSittin(AmbilTingkat(nilai, MedanBuruj), AmbilTingkat(nilai, MedanDarojah), 0, 0, 0, 1, ModusDarojah);
+        langkahIqlim = AmbilTingkat(KurangNilai(JenisBusur, TandaIkut, ModusDarojah, *berikut, sini), MedanDarojah);
         return Syatar1(39, *berikut, 1, false);
     }
-    const Nilai v = TambahNilai(3, 3, 1, nilai, darojah(langkah, nilai.tanda(), 1));
+    const Nilai v = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, nilai, darojah(langkah, nilai.tanda(), 1));
     return Syatar1(kode, v, langkah, jam);
 }
 
@@ -190,17 +192,18 @@ Hasil ClsTaadil::TdlTarekhMasehi(int kode, const Nilai& entri, const Nilai& entr
     const Nilai s = NolkanBuruj(nilai);
     const int64_t n = kode == 39 ? langkahIqlim : langkah;
     if (n == 0) return std::nullopt;
-    const int64_t f2 = AmbilTingkat(nilai, 2);
-    const Nilai pangkal = n == 12 ? DlorbuSittin(0, f2, AmbilTingkat(nilai, 3) / 12 * 12, 0, 0, s.tanda(), 1)
-                                  : darojah(f2 / n * n, s.tanda(), 1);
-    const Nilai lebih = KurangNilai(3, 3, 1, s, pangkal);
+    const int64_t f2 = AmbilTingkat(nilai, MedanDarojah);
+    const Nilai pangkal =
+        n == 12 ? DlorbuSittin(0, f2, AmbilTingkat(nilai, MedanDaqiqoh) / 12 * 12, 0, 0, s.tanda(), ModusBuruj)
+                : darojah(f2 / n * n, s.tanda(), 1);
+    const Nilai lebih = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, s, pangkal);
     // Also for rows of 12 minutes the divisor is n degrees: the term comes out sixty times
     // smaller than a linear one, and the treatises' digits follow from that.
-    return suku(lebih, KurangNilai(3, 3, 2, entri, entriBerikut), n);
+    return suku(lebih, KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, entri, entriBerikut), n);
 }
 
 Nilai ClsTaadil::TaadilSisa(const Nilai& entri, const Nilai& /*entriBerikut*/, const Nilai& suku) {
-    return KurangNilai(3, 3, 2, entri, suku);
+    return KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, entri, suku);
 }
 
 void ClsTaadil::TaadilBaris(std::span<Nilai, 5> baris, int kode, const Nilai& nilai, int langkah, bool jam) {
@@ -217,7 +220,7 @@ void ClsTaadil::TaadilBaris(std::span<Nilai, 5> baris, int kode, const Nilai& ni
 
     // The right ascension table may skip a degree: step down until a row answers. A table
     // without any whole-degree row would answer never; a full turn is enough to know that.
-    int64_t d = AmbilTingkat(nilai, 2) - (AmbilTingkat(nilai, 3) != 0 ? 1 : 0);
+    int64_t d = AmbilTingkat(nilai, MedanDarojah) - (AmbilTingkat(nilai, MedanDaqiqoh) != 0 ? 1 : 0);
     if (d < 0) d += 360;
     bool ada = false;
     for (int coba = 0; coba <= 360 && !ada; ++coba) {
@@ -225,15 +228,15 @@ void ClsTaadil::TaadilBaris(std::span<Nilai, 5> baris, int kode, const Nilai& ni
         if (!ada && --d < 0) d += 360;
     }
     if (!ada) return;
-    baris[0] = KurangNilai(3, 3, 2, nilai, darojah(d, 1, 2));
+    baris[0] = KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, nilai, darojah(d, 1, 2));
     baris[1] = bujurBaris(tqq_);
     tqq_.moveNext();
     if (tqq_.eof()) tqq_.moveFirst();
     baris[2] = bujurBaris(tqq_);
-    baris[3] = KurangNilai(3, 3, 1, baris[1], baris[2]);
-    isi(baris[3], KaliNilai(3, 3, 1, baris[0], baris[3]));
+    baris[3] = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, baris[1], baris[2]);
+    isi(baris[3], KaliNilai(JenisBusur, TandaIkut, ModusBuruj, baris[0], baris[3]));
     baris[0] = Madkhul(nilai);
-    baris[4] = KurangNilai(3, 3, 1, baris[1], baris[3]);
+    baris[4] = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, baris[1], baris[3]);
 }
 
 bool ClsTaadil::gandaIsi(std::span<Nilai> baris, int kode, const Nilai& a, const Nilai& b) {
@@ -258,19 +261,21 @@ bool ClsTaadil::gandaIsi(std::span<Nilai> baris, int kode, const Nilai& a, const
 
     // Offsets of the arguments from their rows: the seconds of b beyond its whole minute, and
     // the minutes of a beyond its row of 20.
-    const Nilai lebihB = KurangNilai(3, 3, 1, GantiTanda(NolkanBuruj(b), "1"), DlorbuSittin(0, 0, j, 0, 0, 1, 1));
-    const Nilai lebihA = KurangNilai(3, 3, 1, GantiTanda(NolkanBuruj(a), "1"),
-                                     DlorbuSittin(0, 0, kDasarGanda + i * kSelangGanda, 0, 0, 1, 1));
+    const Nilai lebihB = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, GantiTanda(NolkanBuruj(b), "1"),
+                                     DlorbuSittin(0, 0, j, 0, 0, 1, ModusBuruj));
+    const Nilai lebihA = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, GantiTanda(NolkanBuruj(a), "1"),
+                                     DlorbuSittin(0, 0, kDasarGanda + i * kSelangGanda, 0, 0, 1, ModusBuruj));
 
     const auto sebaris = [&](int64_t k, size_t awal) {
         baris[awal] = awal == 0 ? e1 : entri(k);
         baris[awal + 1] = entri(k + 1);
-        isi(baris[awal + 2], suku(lebihB, KurangNilai(3, 3, 2, baris[awal], baris[awal + 1]), 1));
+        isi(baris[awal + 2],
+            suku(lebihB, KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, baris[awal], baris[awal + 1]), 1));
         baris[awal + 3] = TaadilSisa(baris[awal], baris[awal + 1], baris[awal + 2]);
     };
     sebaris(dasar, 0);
     sebaris(dasar + kLangkahGanda, 4);
-    baris[8] = KurangNilai(3, 3, 2, baris[3], baris[7]);
+    baris[8] = KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, baris[3], baris[7]);
     isi(baris[9], suku(lebihA, baris[8], kSelangGanda));
     baris[10] = TaadilSisa(baris[3], baris[7], baris[9]);
     return ada;
@@ -297,8 +302,8 @@ bool ClsTaadil::TaadilKusfGanda(std::span<Nilai, 13> baris, int kode, const Nila
 }
 
 bool ClsTaadil::OperMasehi(const Nilai& tanggal) {
-    int tahun = AmbilTingkat(tanggal, 6);
-    const int bulan = AmbilTingkat(tanggal, 7);
+    int tahun = AmbilTingkat(tanggal, MedanTahun);
+    const int bulan = AmbilTingkat(tanggal, MedanBulan);
     if (bulan < 1 || bulan > 12) return false;
     if (bulan <= 2) --tahun;
     return Umurbulan(tahun, 2) == 29;
@@ -307,48 +312,57 @@ bool ClsTaadil::OperMasehi(const Nilai& tanggal) {
 std::array<Nilai, 2> ClsTaadil::Taadil(const Nilai& majmu, const Nilai& mabsut, const Nilai& syahr,
                                        const Nilai& saah, int32_t dawr, int32_t sisaTahun, const Nilai& mabda,
                                        const Nilai& tambah) {
-    const Nilai koreksi = Syatar1(7, DlorbuSittin(0, dawr, 0, 0, 0, 1, 1), 1, false);
+    const Nilai koreksi = Syatar1(7, DlorbuSittin(0, dawr, 0, 0, 0, 1, ModusBuruj), 1, false);
     if (koreksi.kosongTeks()) return {};
 
     // The groups' date, by years and months as the group row writes them.
-    int64_t tahun = AmbilTingkat(mabda, 6) + int64_t{dawr} * AmbilTingkat(tambah, 6);
-    int64_t bulan = AmbilTingkat(mabda, 7) + int64_t{dawr} * AmbilTingkat(tambah, 7) - 1;
+    int64_t tahun = AmbilTingkat(mabda, MedanTahun) + int64_t{dawr} * AmbilTingkat(tambah, MedanTahun);
+    int64_t bulan = AmbilTingkat(mabda, MedanBulan) + int64_t{dawr} * AmbilTingkat(tambah, MedanBulan) - 1;
     tahun += bulan >= 0 ? bulan / 12 : -((11 - bulan) / 12);
     bulan = ((bulan % 12) + 12) % 12 + 1;
-    const int64_t nomor = NomorHari(tahun, static_cast<int>(bulan), AmbilTingkat(mabda, 8)) + AmbilTingkat(koreksi, 8);
+    const int64_t nomor = NomorHari(tahun, static_cast<int>(bulan), AmbilTingkat(mabda, MedanTanggal)) +
+                          AmbilTingkat(koreksi, MedanTanggal);
 
     // The single years, the month row and the hours that the rows carry, as a fraction of a day.
-    const double menitAwal = AmbilTingkat(mabda, 11) * 60.0 + AmbilTingkat(mabda, 12) +
-                             dawr * (AmbilTingkat(tambah, 11) * 60.0 + AmbilTingkat(tambah, 12));
-    const double hari = sisaTahun * (354 + (8 * 60 + 48) / 1440.0) + 360.0 * AmbilTingkat(syahr, 6) +
-                        30.0 * AmbilTingkat(syahr, 7) + AmbilTingkat(syahr, 8) +
-                        (AmbilTingkat(syahr, 11) * 60.0 + AmbilTingkat(syahr, 12) + menitAwal) / 1440.0;
+    const double menitAwal = AmbilTingkat(mabda, MedanJam) * 60.0 + AmbilTingkat(mabda, MedanMenit) +
+                             dawr * (AmbilTingkat(tambah, MedanJam) * 60.0 + AmbilTingkat(tambah, MedanMenit));
+    const double hari = sisaTahun * (354 + (8 * 60 + 48) / 1440.0) + 360.0 * AmbilTingkat(syahr, MedanTahun) +
+                        30.0 * AmbilTingkat(syahr, MedanBulan) + AmbilTingkat(syahr, MedanTanggal) +
+                        (AmbilTingkat(syahr, MedanJam) * 60.0 + AmbilTingkat(syahr, MedanMenit) + menitAwal) / 1440.0;
     int64_t n = nomor + static_cast<int64_t>(std::floor(hari));
 
     // The reckoned weekday settles the day.
-    const Nilai rata = TambahNilai(0, 3, 1, majmu, mabsut, syahr);
-    const int hariDicari = AmbilTingkat(rata, 10) == 0 ? 7 : AmbilTingkat(rata, 10);
+    const Nilai rata = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, majmu, mabsut, syahr);
+    const int hariDicari = AmbilTingkat(rata, MedanHari) == 0 ? 7 : AmbilTingkat(rata, MedanHari);
     int64_t geser = ((hariDicari - HariPekan(n)) % 7 + 7) % 7;
     if (geser > 3) geser -= 7;
     n += geser;
 
     const TanggalSipil t = TanggalDariNomor(n);
-    const MedanAlamah medan = {t.tahun, t.bulan, t.hari, PasaranDariNomor(n), HariPekan(n) % 7,
-                               AmbilTingkat(rata, 11), AmbilTingkat(rata, 12), AmbilTingkat(rata, 13),
-                               AmbilTingkat(rata, 14)};
-    const Nilai rataBertanggal = AlamahTarkh(2, medan, 1);
-    return {rataBertanggal, KurangNilai(2, 3, 1, rataBertanggal, CUmumToAlamah(saah, true))};
+    const MedanAlamah medan = {t.tahun,
+                               t.bulan,
+                               t.hari,
+                               PasaranDariNomor(n),
+                               HariPekan(n) % 7,
+                               AmbilTingkat(rata, MedanJam),
+                               AmbilTingkat(rata, MedanMenit),
+                               AmbilTingkat(rata, MedanDetik),
+                               AmbilTingkat(rata, MedanTsalitsahWaktu)};
+    const Nilai rataBertanggal = AlamahTarkh(JenisAlamahMasehi, medan, 1);
+    return {rataBertanggal,
+            KurangNilai(JenisAlamahMasehi, TandaIkut, ModusBuruj, rataBertanggal, CUmumToAlamah(saah, true))};
 }
 
 std::string ClsTaadil::TaadilKhusf(const Nilai& a, const Nilai& b, const Nilai& c, std::string_view bentuk) {
     int64_t buruj = 0;
     int64_t derajat = 0;
     for (const Nilai* v : {&a, &b, &c}) {
-        buruj += AmbilTingkat(*v, 1);
-        derajat += AmbilTingkat(*v, 2);
+        buruj += AmbilTingkat(*v, MedanBuruj);
+        derajat += AmbilTingkat(*v, MedanDarojah);
     }
-    const Nilai jumlah = DlorbuSittin(buruj, derajat, 0, 0, 0, 1, 1);
-    const std::string teks = std::to_string(int64_t{AmbilTingkat(jumlah, 1)} * 30 + AmbilTingkat(jumlah, 2));
+    const Nilai jumlah = DlorbuSittin(buruj, derajat, 0, 0, 0, 1, ModusBuruj);
+    const std::string teks =
+        std::to_string(int64_t{AmbilTingkat(jumlah, MedanBuruj)} * 30 + AmbilTingkat(jumlah, MedanDarojah));
     const bool kena = teks == "26" || teks == "51" || teks == "49";
     const size_t awal = kena ? 0 : 2;
     return awal < bentuk.size() ? std::string(bentuk.substr(awal, 2)) : std::string();

@@ -213,71 +213,14 @@ void FrmHisab::buatTampilan() {
     connect(bulan_, &QListWidget::currentRowChanged, this, &FrmHisab::konversiTahun);
     connect(stop_, &QPushButton::clicked, this, &FrmHisab::tanyaBerhenti);
     connect(tab_, &QTabWidget::tabCloseRequested, this, &FrmHisab::tutupTab);
+    connect(tab_, &QTabWidget::currentChanged, this, &FrmHisab::perbaruiMenu);
 }
 
 void FrmHisab::buatMenu() {
-    auto aksi = [this](QMenu* menu, const QString& kunci, const QString& judul) {
-        QAction* a = menu->addAction(judul);
-        a->setObjectName(kunci);
-        return a;
-    };
-
-    QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
-    file->setObjectName("FILE");
-    QAction* keluar = aksi(file, "mnuExit", QStringLiteral("Keluar (&Exit)"));
-    keluar->setShortcut(QKeySequence::Quit);
-    connect(keluar, &QAction::triggered, this, &QWidget::close);
-
-    QMenu* edit = menuBar()->addMenu(QStringLiteral("&Edit"));
-    edit->setObjectName("EDIT");
-    QAction* daerah = aksi(edit, "mnuNewDaerah", QStringLiteral("Tambah/Hapus &Daerah"));
-    connect(daerah, &QAction::triggered, this, &FrmHisab::bukaDaerah);
-    perintah_ << daerah;
-
-    QMenu* proses = menuBar()->addMenu(QStringLiteral("Proses"));
-    proses->setObjectName("PROSESMENU");
-    QMenu* ijtima = proses->addMenu(QStringLiteral("Hisab Awal Bulan"));
-    ijtima->setObjectName("mnuProsesIj");
-    for (const EntriModul* k : ws_->kitabTersedia()) {
-        QAction* a = aksi(ijtima, QStringLiteral("mnuProsesIj|%1").arg(k->kodeLembar), q(k->nama));
-        connect(a, &QAction::triggered, this, [this, kode = std::string(k->kode)] { prosesKitab(kode); });
-        perintah_ << a;
-    }
-    proses->addSeparator();
-    QAction* semua = aksi(proses, "mnuProsesAll", QStringLiteral("Proses semua metode"));
-    connect(semua, &QAction::triggered, this, [this] {
-        prosesBatch([this](const std::string& tahun, int bulan, const std::string& tempat) {
-            return ws_->mnuProsesAllSub(tahun, bulan, tempat);
-        });
-    });
-    perintah_ << semua;
-    QMenu* perBulan = proses->addMenu(QStringLiteral("Bulan"));
-    perBulan->setObjectName("mnuBulan");
-    for (int b = 1; b <= 12; ++b) {
-        QAction* a = aksi(perBulan, QStringLiteral("mnuBulan|%1").arg(b), QString::fromUtf8(kBarisBulan[b - 1]));
-        connect(a, &QAction::triggered, this, [this, b] {
-            prosesBatch([this, b](const std::string& tahun, int, const std::string& tempat) {
-                return ws_->mnuProsesAllSub(tahun, b, tempat);
-            });
-        });
-        perintah_ << a;
-    }
-    QAction* setahun = aksi(proses, "mnu12Bulan", QStringLiteral("Satu tahun"));
-    connect(setahun, &QAction::triggered, this, [this] {
-        prosesBatch([this](const std::string& tahun, int, const std::string& tempat) {
-            return ws_->duaBelasBulanSemuaKitab(tahun, tempat);
-        });
-    });
-    perintah_ << setahun;
-
-    menuLembar_ = menuBar()->addMenu(QStringLiteral("&Lembar"));
-    menuLembar_->setObjectName("SHEETSMENU");
-    menuLembar_->menuAction()->setVisible(false);
-
-    QMenu* bantuan = menuBar()->addMenu(QStringLiteral("&Help"));
-    bantuan->setObjectName("HELP");
-    connect(aksi(bantuan, "mnuAbout", QStringLiteral("Seng Nggawe Program")), &QAction::triggered, this,
-            &FrmHisab::tentang);
+    MenuTerbangun menu = BangunMenu(*this, *menuBar(), DaftarMenu());
+    perintah_ = menu.sibuk;
+    perbarui_ = std::move(menu.perbarui);
+    menuLembar_ = menuBar()->findChild<QMenu*>(QStringLiteral("SHEETSMENU"));
 }
 
 void FrmHisab::isiPohon() {
@@ -357,25 +300,54 @@ void FrmHisab::mulaiKerja(std::function<std::function<void()>()> tugas) {
     aturSibuk(true);
 }
 
-void FrmHisab::prosesKitab(const std::string& kode) {
-    const std::string tahun = tahunTeks();
-    const int bulan = bulanTerpilih();
-    const std::string tempat = tempatTerpilih().toStdString();
-    mulaiKerja([this, kode, tahun, bulan, tempat]() -> std::function<void()> {
-        const Workspace::HasilProses hasil = ws_->mnuProsesIjSub(kode, tahun, bulan, tempat);
+FrmHisab::Pilihan FrmHisab::pilihan() const { return {tahunTeks(), bulanTerpilih(), tempatTerpilih().toStdString()}; }
+
+void FrmHisab::proses(Run run) {
+    mulaiKerja([this, run = std::move(run), p = pilihan()]() -> std::function<void()> {
+        const Workspace::HasilProses hasil = run(*ws_, p);
         return [this, hasil] { selesaiProses(hasil); };
     });
 }
 
-void FrmHisab::prosesBatch(
-    std::function<Workspace::HasilBatch(const std::string& tahun, int bulan, const std::string& tempat)> batch) {
-    const std::string tahun = tahunTeks();
-    const int bulan = bulanTerpilih();
-    const std::string tempat = tempatTerpilih().toStdString();
-    mulaiKerja([this, batch, tahun, bulan, tempat]() -> std::function<void()> {
-        const Workspace::HasilBatch hasil = batch(tahun, bulan, tempat);
+void FrmHisab::prosesBatch(Batch batch) {
+    mulaiKerja([this, batch = std::move(batch), p = pilihan()]() -> std::function<void()> {
+        const Workspace::HasilBatch hasil = batch(*ws_, p);
         return [this, hasil] { selesaiBatch(hasil); };
     });
+}
+
+void FrmHisab::prosesKitab(const std::string& kode) {
+    proses([kode](Workspace& ws, const Pilihan& p) { return ws.mnuProsesIjSub(kode, p.tahun, p.bulan, p.tempat); });
+}
+
+void FrmHisab::prosesSemuaMetode(int bulan) {
+    prosesBatch([bulan](Workspace& ws, const Pilihan& p) {
+        return ws.mnuProsesAllSub(p.tahun, bulan ? bulan : p.bulan, p.tempat);
+    });
+}
+
+void FrmHisab::prosesSetahun() {
+    prosesBatch([](Workspace& ws, const Pilihan& p) { return ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat); });
+}
+
+bool FrmHisab::sibuk() const { return pekerja_->sibuk(); }
+
+TabLembar* FrmHisab::tabAktif() const { return qobject_cast<TabLembar*>(tab_->currentWidget()); }
+
+const LembarKerja* FrmHisab::lembarAktif() const {
+    const TabLembar* t = tabAktif();
+    return t ? &t->lembar() : nullptr;
+}
+
+std::vector<const LembarKerja*> FrmHisab::lembarTerbuka() const {
+    std::vector<const LembarKerja*> semua;
+    for (int i = 0; i < tab_->count(); ++i)
+        if (const auto* t = qobject_cast<const TabLembar*>(tab_->widget(i))) semua.push_back(&t->lembar());
+    return semua;
+}
+
+void FrmHisab::perbaruiMenu() {
+    for (auto& [aksi, f] : perbarui_) f(*this, *aksi);
 }
 
 void FrmHisab::aturSibuk(bool sibuk) {
@@ -390,6 +362,7 @@ void FrmHisab::aturSibuk(bool sibuk) {
         statusBar()->clearMessage();
         // A question still open when the job ended has nothing left to stop.
         if (tanya_) tanya_->reject();
+        perbaruiMenu();
     }
 }
 
@@ -480,15 +453,6 @@ void FrmHisab::bukaDaerah() {
         if (dialog->berubah()) isiDaerah(tempatTerpilih());
     });
     dialog->open();
-}
-
-void FrmHisab::tentang() {
-    BukaPesan(this, QMessageBox::Information, QStringLiteral("Seng Nggawe Program"),
-              QStringLiteral("Lek botoh bantuan nilpuno nang seng gawe :\n\n"
-                             "Nama : Tim pengembang falak\n"
-                             "Alamat : -\n"
-                             "Email : -\n"
-                             "Telp. : -"));
 }
 
 bool FrmHisab::simpanGambar(const QString& berkas) { return grab().save(berkas, "PNG"); }

@@ -8,11 +8,14 @@
 
 #include <QMainWindow>
 
+#include <functional>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "core/Berkas.h"
 #include "run/Workspace.h"
+#include "ui/ModMenu.h"
 
 class QAction;
 class QComboBox;
@@ -45,8 +48,27 @@ public:
     explicit FrmHisab(const LokasiData& lokasi, QWidget* induk = nullptr);
     ~FrmHisab() override;
 
+    // What the user chose: the year as typed, the month, the place.
+    struct Pilihan {
+        std::string tahun;
+        int bulan = 0;
+        std::string tempat;
+    };
+    using Run = std::function<Workspace::HasilProses(Workspace& ws, const Pilihan& pilihan)>;
+    using Batch = std::function<Workspace::HasilBatch(Workspace& ws, const Pilihan& pilihan)>;
+
     // A run of one treatise for the chosen place, year and month, as a click in the tree does.
     void prosesKitab(const std::string& kode);
+    // Every treatise for one month; 0 is the chosen month.
+    void prosesSemuaMetode(int bulan);
+    // Every treatise for the twelve months of the chosen year.
+    void prosesSetahun();
+    // A run or a batch of the session for the user's choice, on the worker thread; its sheets
+    // come onto new tabs, its message into a box. Nothing while another job runs.
+    void proses(Run run);
+    void prosesBatch(Batch batch);
+    // Opens the places register.
+    void bukaDaerah();
     // Chooses the place, the year and the month, as the user would; a null year or a month 0
     // keeps what is chosen. False when the place is not in the list or the month is past 12.
     bool pilih(const QString& tempat, const QString& tahun, int bulan);
@@ -54,6 +76,13 @@ public:
     bool simpanGambar(const QString& berkas);
 
     Pekerja& pekerja() const { return *pekerja_; }
+    bool sibuk() const;
+    // The session. Read or change it only while no job runs.
+    Workspace& ruangKerja() const { return *ws_; }
+    // The sheet in front, or none; every sheet on the tabs, in their order.
+    TabLembar* tabAktif() const;
+    const LembarKerja* lembarAktif() const;
+    std::vector<const LembarKerja*> lembarTerbuka() const;
     // The report of the tables that could not be read; empty when all were.
     const QString& laporanTabel() const { return laporanTabel_; }
 
@@ -70,11 +99,13 @@ private:
     QString tempatTerpilih() const;
     std::string tahunTeks() const;
     int bulanTerpilih() const;
+    Pilihan pilihan() const;
 
     // One job on the worker thread; the commands are disabled until it is over.
     void mulaiKerja(std::function<std::function<void()>()> tugas);
-    void prosesBatch(std::function<Workspace::HasilBatch(const std::string& tahun, int bulan, const std::string& tempat)> batch);
     void aturSibuk(bool sibuk);
+    // The items whose state follows the sheet in front.
+    void perbaruiMenu();
     void selesaiProses(const Workspace::HasilProses& hasil);
     void selesaiBatch(const Workspace::HasilBatch& hasil);
     void tampilkanPesan(const Workspace::Pesan& pesan);
@@ -85,8 +116,6 @@ private:
     // which the chosen month begins, as every conversion writes it.
     void konversiTahun();
     void tanyaBerhenti();
-    void bukaDaerah();
-    void tentang();
 
     std::unique_ptr<ClsConnection> koneksi_;
     std::unique_ptr<Workspace> ws_;
@@ -106,6 +135,7 @@ private:
     QMenu* menuLembar_ = nullptr;
     QMessageBox* tanya_ = nullptr;
     QList<QAction*> perintah_;  // the commands that start a job or change the register
+    std::vector<std::pair<QAction*, AksiMenu>> perbarui_;
 };
 
 }  // namespace falak::ui

@@ -36,7 +36,7 @@ void FaidlulKarim::HitungBudTaqwim() {
     BudTaqwim(1) = Jumlah(static_cast<size_t>(data().unsur.wasath));
     BudTaqwim(2) = Qomar(7);
     // Not the first cell: the third, as the previous run left it.
-    BudTaqwim(3) = KurangNilai(3, 3, 1, BudTaqwim(3), BudTaqwim(2));
+    BudTaqwim(3) = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, BudTaqwim(3), BudTaqwim(2));
 }
 
 std::string FaidlulKarim::judulKesimpulan() const {

@@ -53,7 +53,7 @@ Nilai IttifaqDzatilBain::alamahSyahr(const Tabel& syahru) const {
 void IttifaqDzatilBain::IjtimaFR() {
     hitungSaah();
     const Nilai saah = CUmumToAlamah(Saah(5), true);
-    Ijtima(3) = KurangNilai(1, 4, 1, Jumlah(1), saah);
+    Ijtima(3) = KurangNilai(JenisAlamahHijri, TandaIkutUrut, ModusBuruj, Jumlah(1), saah);
 
     const auto t = k_.taadil.Taadil(Majmu(1), Mabsut(1), Syahr(1), Saah(5), Dawr, SisaTahun, Nilai(data().mabda[0]),
                                     Nilai(data().tambah[0]));
@@ -67,7 +67,7 @@ void IttifaqDzatilBain::IjtimaFR() {
     Ijtima(2) = AlamahTarkh(-1, m, AmbilTanda(saah));
     Ijtima(3) = t[1];
     Ijtima(4) = selisihBujur(bujurBertanggal());
-    Ijtima(5) = TambahNilai(2, 3, 1, Ijtima(3), Ijtima(4));
+    Ijtima(5) = TambahNilai(JenisAlamahMasehi, TandaIkut, ModusBuruj, Ijtima(3), Ijtima(4));
 }
 
 void IttifaqDzatilBain::HilalFR() {
@@ -79,18 +79,19 @@ void IttifaqDzatilBain::WaktuIDB1() {
     const Tempat& t = k_.sesi.tempat;
     // sin δ = sin λ sin 23° 52', and then the same with the latitude.
     auto sinKali = [](const Nilai& a, const Nilai& b) {
-        const Nilai sa = TrigNilai(1, 1, a, false).value_or(kNol);
-        const Nilai sb = TrigNilai(1, 1, b, false).value_or(kNol);
-        return HitungDeret(3, 1, 1, sa, 3, sb, 0, kNol, 0, kNol, 0, kNol);
+        const Nilai sa = TrigNilai(1, ModusBuruj, a, false).value_or(kNol);
+        const Nilai sb = TrigNilai(1, ModusBuruj, b, false).value_or(kNol);
+        return HitungDeret(TandaIkut, ModusBuruj, 1, sa, 3, sb, 0, kNol, 0, kNol, 0, kNol);
     };
-    Waktu(1) = TambahNilai(3, 3, 2, tempatMatahari(), kNol);
+    Waktu(1) = TambahNilai(JenisBusur, TandaIkut, ModusLingkaran, tempatMatahari(), kNol);
     isi(Waktu(2), sinKali(Waktu(1), Nilai("00 23 52 00 00 1")));
-    Waktu(3) = DlorbuSittin(0, t.lintangDerajat, t.lintangMenit, 0, 0, AmbilTanda(Nilai(t.tandaLintang)), 1);
+    Waktu(3) = DlorbuSittin(0, t.lintangDerajat, t.lintangMenit, 0, 0, AmbilTanda(Nilai(t.tandaLintang)), ModusBuruj);
     isi(Waktu(4), sinKali(Waktu(2), Waktu(3)));
-    isi(Waktu(5), KaliNilai(3, 3, 1, Waktu(4), Nilai("00 00 04 00 00 1")));
+    isi(Waktu(5), KaliNilai(JenisBusur, TandaIkut, ModusBuruj, Waktu(4), Nilai("00 00 04 00 00 1")));
     const Nilai& I = Ijtima(5);
-    Waktu(6) = CAlamahToUmum(AlamahTarkh(0, MedanAlamah{0, 0, 0, 0, 0, AmbilTingkat(I, 11), AmbilTingkat(I, 12), 0, 0}, 1));
-    Waktu(7) = TambahNilai(3, 3, 1, Waktu(5), Waktu(6));
+    Waktu(6) = CAlamahToUmum(AlamahTarkh(
+        JenisAlamah, MedanAlamah{0, 0, 0, 0, 0, AmbilTingkat(I, MedanJam), AmbilTingkat(I, MedanMenit), 0, 0}, 1));
+    Waktu(7) = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Waktu(5), Waktu(6));
 
     auto tanda = [](int flag) { return flag == 0 ? std::string("-") : std::string(); };
     Tanda = {tanda(AmbilTanda(Waktu(2))), t.tandaLintang == "0" ? "-" : "", tanda(AmbilTanda(Waktu(4))),
@@ -99,13 +100,14 @@ void IttifaqDzatilBain::WaktuIDB1() {
 
 Nilai IttifaqDzatilBain::hariIjtima() {
     const Nilai& I = Ijtima(5);
-    if (TanggalMasehi[1].kosongTeks() || AmbilTingkat(I, 6) == 0) return Nilai();
+    if (TanggalMasehi[1].kosongTeks() || AmbilTingkat(I, MedanTahun) == 0) return Nilai();
     char bulan[8];
-    std::snprintf(bulan, sizeof bulan, "%02d", AmbilTingkat(I, 7));
-    const int pasaran = AmbilTingkat(I, 9) == 0 ? 5 : AmbilTingkat(I, 9);
-    const int hari = AmbilTingkat(I, 10) == 0 ? 7 : AmbilTingkat(I, 10);
-    return Nilai(std::to_string(AmbilTingkat(I, 6)) + " " + bulan + " " + std::to_string(AmbilTingkat(I, 8)) + " " +
-                 std::to_string(pasaran) + " " + std::to_string(hari) + " 00 00 00 00 1");
+    std::snprintf(bulan, sizeof bulan, "%02d", AmbilTingkat(I, MedanBulan));
+    const int pasaran = AmbilTingkat(I, MedanPasaran) == 0 ? 5 : AmbilTingkat(I, MedanPasaran);
+    const int hari = AmbilTingkat(I, MedanHari) == 0 ? 7 : AmbilTingkat(I, MedanHari);
+    return Nilai(std::to_string(AmbilTingkat(I, MedanTahun)) + " " + bulan + " " +
+                 std::to_string(AmbilTingkat(I, MedanTanggal)) + " " + std::to_string(pasaran) + " " +
+                 std::to_string(hari) + " 00 00 00 00 1");
 }
 
 void IttifaqDzatilBain::tulisSelTambahan(ClsFlexGrid& g) {

@@ -17,7 +17,7 @@ namespace {
 
 constexpr int kLangkah = 8;  // steps of the progress bar
 
-Nilai busur(int64_t b, int64_t d, int64_t m) { return DlorbuSittin(b, d, m, 0, 0, 1, 1); }
+Nilai busur(int64_t b, int64_t d, int64_t m) { return DlorbuSittin(b, d, m, 0, 0, 1, ModusBuruj); }
 
 // The slot of each element in the single-year rows of the value arithmetic: alamah, Hishshoh,
 // Wasath, Khossyoh, Markaz.
@@ -91,17 +91,18 @@ void KerangkaTaqribi::PokokFR(int32_t tahun, int16_t bulan) {
         if (adaSyahr) {
             const std::string k = s.kolom;
             isi(Syahr(static_cast<size_t>(sel)), DlorbuSittin(BacaTeks(syahru, k + "Brj"), BacaTeks(syahru, k + "Jah"),
-                                                               BacaTeks(syahru, k + "Qoh"), "0", "0", 1, 1));
+                                                              BacaTeks(syahru, k + "Qoh"), "0", "0", 1, ModusBuruj));
         }
     }
 
-    Jumlah(1) = TambahNilai(0, 3, 1, Majmu(1), Mabsut(1), Syahr(1));
-    for (size_t i = 2; i <= n; ++i) Jumlah(i) = TambahNilai(3, 3, 1, Majmu(i), Mabsut(i), Syahr(i));
+    Jumlah(1) = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, Majmu(1), Mabsut(1), Syahr(1));
+    for (size_t i = 2; i <= n; ++i)
+        Jumlah(i) = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Majmu(i), Mabsut(i), Syahr(i));
 }
 
 Nilai KerangkaTaqribi::alamahSyahr(const Tabel& syahru) const {
     auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, kolom); };
-    return AlamahTarkh(0, {"0", "0", "0", "0", sel("alHari"), sel("alSah"), sel("alQoh"), "0", "0"}, 1)
+    return AlamahTarkh(JenisAlamah, {"0", "0", "0", "0", sel("alHari"), sel("alSah"), sel("alQoh"), "0", "0"}, 1)
         .value_or(Syahr(1));
 }
 
@@ -125,17 +126,17 @@ void KerangkaTaqribi::QomarFR() {
 void KerangkaTaqribi::TaadilQomar() {
     Qomar(1) = TdlKs(5);
     Qomar(2) = TdlMr(5);
-    Qomar(3) = TambahNilai(3, 3, 1, Qomar(1), Qomar(2));
+    Qomar(3) = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Qomar(1), Qomar(2));
     Qomar(4) = busur(0, 0, 5);
-    isi(Qomar(5), KaliNilai(3, 3, 1, Qomar(3), Qomar(4)));
+    isi(Qomar(5), KaliNilai(JenisBusur, TandaIkut, ModusBuruj, Qomar(3), Qomar(4)));
     Qomar(6) = TdlMr(5);
-    Qomar(7) = TambahNilai(3, 3, 1, Qomar(5), Qomar(6));
+    Qomar(7) = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Qomar(5), Qomar(6));
 }
 
 void KerangkaTaqribi::HitungBudTaqwim() {
     BudTaqwim(1) = Jumlah(static_cast<size_t>(data_.unsur.wasath));
     BudTaqwim(2) = Qomar(static_cast<size_t>(data_.jumlahQomar));
-    BudTaqwim(3) = KurangNilai(3, 3, 1, BudTaqwim(1), BudTaqwim(2));
+    BudTaqwim(3) = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, BudTaqwim(1), BudTaqwim(2));
 }
 
 void KerangkaTaqribi::hitungSaah() { HitungSaah(Saah.semua(), Qomar(3), TdlDq(5), TdlHs(5)); }
@@ -148,9 +149,9 @@ void KerangkaTaqribi::IjtimaFR() {
     hitungSaah();
     Ijtima(1) = Jumlah(1);
     Ijtima(2) = CUmumToAlamah(Saah(5), false);
-    Ijtima(3) = KurangNilai(0, 3, 1, Jumlah(1), Ijtima(2));
+    Ijtima(3) = KurangNilai(JenisAlamah, TandaIkut, ModusBuruj, Jumlah(1), Ijtima(2));
     Ijtima(4) = selisihBujur(false);
-    Ijtima(5) = TambahNilai(0, 3, 1, Ijtima(3), Ijtima(4));
+    Ijtima(5) = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, Ijtima(3), Ijtima(4));
 }
 
 void KerangkaTaqribi::HilalFR() { HilalMaghribTetap(Hilal.semua(), Nur.semua(), Ijtima(5), cahayaLintang()); }
@@ -165,7 +166,7 @@ Nilai KerangkaTaqribi::hariIjtima() { return HariIjtimaTaqribi(k_, ijtimaSejakMa
 KerangkaTaqribi::HariHasil KerangkaTaqribi::hariHasil() {
     HariHasil h;
     h.ijtima = hariIjtima();
-    h.awal = AwalBulanTaqribi(h.ijtima, NilaiDesimal(3, Hilal(5)));
+    h.awal = AwalBulanTaqribi(h.ijtima, NilaiDesimal(JenisBusur, Hilal(5)));
     return h;
 }
 
@@ -218,7 +219,7 @@ void KerangkaTaqribi::IsiTabelFR(ClsFlexGrid& g) {
     const Sesi& s = k_.sesi;
     g.FlexSetting(40, 40, 490, 500, 2500, true);
     IsiBingkai(g, k_.koneksi.Names, data_.kode);
-    const int tahun = AmbilTingkat(s.tanggalPilihan, 6);
+    const int tahun = AmbilTingkat(s.tanggalPilihan, MedanTahun);
     g.FlexNama(JudulLembarArab(s.tempat.namaTampil, tahun, bulanJudul()), 0, 0, 39);
     g.FlexTeks(std::to_string(tahunMajmu()), 3, 39);
     g.FlexTeks(std::to_string(SisaTahun), 4, 39);
@@ -282,7 +283,7 @@ HasilHitung KerangkaTaqribi::HitungIjtimaFR(int32_t tahun, int16_t bulan, bool l
 std::optional<Nilai> KerangkaTaqribi::AwalBulanFR(int32_t tahun, int16_t bulan) {
     k_.sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
     hitungTahap(tahun, bulan);
-    return AwalBulanJam(hariIjtima(), NilaiDesimal(3, Hilal(5)));
+    return AwalBulanJam(hariIjtima(), NilaiDesimal(JenisBusur, Hilal(5)));
 }
 
 std::vector<BarisTercatat> KerangkaTaqribi::baris() const {

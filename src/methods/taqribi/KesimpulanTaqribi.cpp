@@ -8,33 +8,36 @@ namespace falak {
 
 Nilai HariIjtimaTaqribi(Konteks& k, const Nilai& ijtima) {
     const Sesi& s = k.sesi;
-    return k.kesimpulan.CariTHM(AmbilTingkat(s.tanggalPilihan, 6), AmbilTingkat(s.tanggalPilihan, 7), AmbilTingkat(ijtima, 10))
+    return k.kesimpulan
+        .CariTHM(AmbilTingkat(s.tanggalPilihan, MedanTahun), AmbilTingkat(s.tanggalPilihan, MedanBulan),
+                 AmbilTingkat(ijtima, MedanHari))
         .value_or(Nilai());
 }
 
 Nilai AwalBulanTaqribi(const Nilai& hariIjtima, double tinggi) {
     const std::string d = tinggi < 2 ? "2" : "1";
     const Nilai tambahHari = AlamahTarkh(3, {"0", "0", d, d, d, "0", "0", "0", "0"}, 1).value_or(Nilai());
-    return TambahNilai(2, 3, 1, hariIjtima, tambahHari);
+    return TambahNilai(JenisAlamahMasehi, TandaIkut, ModusBuruj, hariIjtima, tambahHari);
 }
 
 std::optional<Nilai> AwalBulanJam(const Nilai& hariIjtima, double tinggi) {
     if (hariIjtima.kosongTeks()) return std::nullopt;
     const char* jam = tinggi < 2 ? "49" : "25";
-    return TambahNilai(2, 3, 1, hariIjtima, Nilai(std::string("00 00 00 00 00 ") + jam + " 00 00 00 1"));
+    return TambahNilai(JenisAlamahMasehi, TandaIkut, ModusBuruj, hariIjtima,
+                       Nilai(std::string("00 00 00 00 00 ") + jam + " 00 00 00 1"));
 }
 
 void TulisKesimpulanTaqribi(Konteks& k, const BahanKesimpulan& b, std::vector<std::string>& baris,
                             Ringkasan& ringkasan) {
     ClsKesimpulan& ks = k.kesimpulan;
     const Sesi& s = k.sesi;
-    const std::string jamIjtima = std::to_string(AmbilTingkat(b.ijtima, 11) + 18);
+    const std::string jamIjtima = std::to_string(AmbilTingkat(b.ijtima, MedanJam) + 18);
 
     baris.assign(13, std::string());
     baris[0] = b.judul;
     baris[1] = s.labelKe(0) + ks.FullM(b.awalBulan, "17", true);
     baris[2] = s.labelKe(1) + ks.FullM(b.hariIjtima, jamIjtima, false);
-    const std::string jam = ks.JamIjtima(jamIjtima, std::to_string(AmbilTingkat(b.ijtima, 12)), b.hariIjtima);
+    const std::string jam = ks.JamIjtima(jamIjtima, std::to_string(AmbilTingkat(b.ijtima, MedanMenit)), b.hariIjtima);
     baris[3] = s.labelKe(2) + jam;
     baris[4] = s.labelKe(3) + ks.SaatuMaghribS(b.matahari);
     baris[5] = s.labelKe(6) + ks.ArahHilal(b.matahari);

@@ -34,18 +34,20 @@ void KhulashohWafiyah::HilalFR() {
     // The sunset of the day of the ijtima' at the place, in hours and minutes.
     std::string gurub, terbit;
     const Waktu w = k_.kesimpulan.WaktuGurub(Nilai(BurujMatahari(hariIjtima()).value_or("")), gurub, terbit);
-    const Nilai terbenam = AlamahTarkh(0, MedanAlamah{0, 0, 0, 0, 0, w.jam(), w.menit(), 0, 0}, 1);
+    const Nilai terbenam = AlamahTarkh(JenisAlamah, MedanAlamah{0, 0, 0, 0, 0, w.jam(), w.menit(), 0, 0}, 1);
     Hilal(1) = CAlamahToUmum(terbenam);
     Hilal(2) = CAlamahToUmum(Ijtima(5));
     // An ijtima' after that sunset is measured to the next one, 24 hours on.
-    const bool sesudahGurub = NilaiDesimal(3, Hilal(2)) > NilaiDesimal(3, Hilal(1));
-    const Nilai gurubDipakai = sesudahGurub ? TambahNilai(3, 3, 1, Hilal(1), DlorbuSittin(0, 24, 0, 0, 0, 1, 1)) : Hilal(1);
-    Hilal(3) = KurangNilai(3, 2, 1, gurubDipakai, Hilal(2));
+    const bool sesudahGurub = NilaiDesimal(JenisBusur, Hilal(2)) > NilaiDesimal(JenisBusur, Hilal(1));
+    const Nilai gurubDipakai = sesudahGurub ? TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Hilal(1),
+                                                          DlorbuSittin(0, 24, 0, 0, 0, 1, ModusBuruj))
+                                            : Hilal(1);
+    Hilal(3) = KurangNilai(JenisBusur, TandaPlus, ModusBuruj, gurubDipakai, Hilal(2));
     TinggiHilal(Hilal.semua(), Nur.semua(), cahayaLintang());
 }
 
 Nilai KhulashohWafiyah::ijtimaSejakMaghrib() const {
-    return TambahNilai(0, 3, 1, Ijtima(5), Nilai("000 00 00 00 00 18 00 00 00 1"));
+    return TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, Ijtima(5), Nilai("000 00 00 00 00 18 00 00 00 1"));
 }
 
 }  // namespace falak

@@ -45,7 +45,9 @@ void bacaDesimal(const Tabel& t, std::string_view kolom, float& sel) {
 }
 
 // A decimal as the value row that the words of the conclusion read.
-Nilai keNilai(float x, int tanda = 1) { return DesimalKeNilai(3, 3, 1, x, tanda).value_or(Nilai()); }
+Nilai keNilai(float x, int tanda = 1) {
+    return DesimalKeNilai(JenisBusur, TandaIkut, ModusBuruj, x, tanda).value_or(Nilai());
+}
 
 }  // namespace
 
@@ -156,12 +158,13 @@ void SyamsulHilal::IjtimaSH() {
 
     // The place: its distance in longitude from the markaz, in hours, and its side.
     const Tempat& t = k_.sesi.tempat;
-    const Nilai p = DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), 3);
-    const Nilai j = DlorbuSittin(0, kBujurMarkazDerajat, kBujurMarkazMenit, 0, 0, 1, 3);
-    if (auto jam = BagiNilai(3, 3, 1, KurangNilai(3, 3, 3, p, j), DlorbuSittin(0, 15, 0, 0, 0, 1, 1))) {
+    const Nilai p = DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), ModusDarojah);
+    const Nilai j = DlorbuSittin(0, kBujurMarkazDerajat, kBujurMarkazMenit, 0, 0, 1, ModusDarojah);
+    if (auto jam = BagiNilai(JenisBusur, TandaIkut, ModusBuruj, KurangNilai(JenisBusur, TandaIkut, ModusDarojah, p, j),
+                             DlorbuSittin(0, 15, 0, 0, 0, 1, ModusBuruj))) {
         const Nilai selisih = CAlamahToUmum(CUmumToAlamah(*jam, false));
         SHTandaBujur = static_cast<int16_t>(AmbilTanda(selisih));
-        SHIjtima(4) = static_cast<float>(NilaiDesimal(3, selisih));
+        SHIjtima(4) = static_cast<float>(NilaiDesimal(JenisBusur, selisih));
     }
     SHIjtima(5) = HitungSH(-1, SHTandaBujur == 0 ? 2 : 1, static_cast<float>(ValAngka(SHIjtimaTeks(3))), SHIjtima(3),
                            0, SHIjtima(4), SHIjtimaTeks(5));
@@ -169,7 +172,10 @@ void SyamsulHilal::IjtimaSH() {
     // The same moment as an alamah value, whose weekday, hour and minute the words read.
     const Nilai jam = keNilai(SHIjtima(5));
     const auto hari = BulatGenap32(ValAngka(SHIjtimaTeks(5))).value_or(0);
-    SHIjtimaAlamah = AlamahTarkh(0, {0, 0, 0, 0, hari, AmbilTingkat(jam, 2), AmbilTingkat(jam, 3), AmbilTingkat(jam, 4), 0}, 1);
+    SHIjtimaAlamah = AlamahTarkh(JenisAlamah,
+                                 {0, 0, 0, 0, hari, AmbilTingkat(jam, MedanDarojah), AmbilTingkat(jam, MedanDaqiqoh),
+                                  AmbilTingkat(jam, MedanTsaniyah), 0},
+                                 1);
 }
 
 void SyamsulHilal::HilalSH() {
@@ -204,7 +210,7 @@ void SyamsulHilal::IsiTabelSH(ClsFlexGrid& g) {
     const Sesi& s = k_.sesi;
     g.FlexSetting(19, 12, 900, 300, 2500, true);
     IsiBingkai(g, k_.koneksi.Names, "SH");
-    const int tahun = AmbilTingkat(s.tanggalPilihan, 6);
+    const int tahun = AmbilTingkat(s.tanggalPilihan, MedanTahun);
     g.FlexNama(JudulLembarArab(s.tempat.namaTampil, tahun, SHBulan + 1), 0, 0, 11);
     g.FlexTeks(std::to_string(static_cast<int64_t>(SHDawr) * 30), 3, 11);
     g.FlexTeks(std::to_string(SHSisaTahun), 4, 11);

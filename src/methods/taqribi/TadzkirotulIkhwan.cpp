@@ -34,14 +34,14 @@ TadzkirotulIkhwan::TadzkirotulIkhwan(Konteks k) : KerangkaTaqribi(k, kTadzkirotu
 void TadzkirotulIkhwan::TaadilQomar() {
     Qomar(1) = TdlKs(5);
     Qomar(2) = TdlMr(5);
-    Qomar(3) = TambahNilai(3, 3, 1, Qomar(1), Qomar(2));
+    Qomar(3) = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Qomar(1), Qomar(2));
     Qomar(4) = TdlHs(5);
     Qomar(5) = Nilai("00 00 02 30 00 1");
-    isi(Qomar(6), KaliNilai(3, 3, 1, Qomar(4), Qomar(5)));
+    isi(Qomar(6), KaliNilai(JenisBusur, TandaIkut, ModusBuruj, Qomar(4), Qomar(5)));
     Qomar(7) = Qomar(3);
-    isi(Qomar(8), KaliNilai(3, 3, 1, Qomar(6), Qomar(7)));
+    isi(Qomar(8), KaliNilai(JenisBusur, TandaIkut, ModusBuruj, Qomar(6), Qomar(7)));
     Qomar(9) = TdlMr(5);
-    Qomar(10) = TambahNilai(3, 3, 1, Qomar(8), Qomar(9));
+    Qomar(10) = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Qomar(8), Qomar(9));
 }
 
 }  // namespace falak

@@ -1,0 +1,215 @@
+#include "ui/ModMenu.h"
+
+#include <QAction>
+#include <QMenu>
+#include <QMenuBar>
+
+#include <map>
+
+#include "core/FungsHisab.h"
+#include "ui/FrmHisab.h"
+#include "ui/KotakPesan.h"
+
+namespace falak::ui {
+
+namespace {
+
+QString q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
+
+void keluar(FrmHisab& j, QAction&) { j.close(); }
+void bukaDaerah(FrmHisab& j, QAction&) { j.bukaDaerah(); }
+void prosesKitab(FrmHisab& j, const EntriModul& m) { j.prosesKitab(std::string(m.kode)); }
+void prosesSemuaMetode(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0); }
+void prosesBulan(FrmHisab& j, int bulan) { j.prosesSemuaMetode(bulan); }
+void prosesSetahun(FrmHisab& j, QAction&) { j.prosesSetahun(); }
+
+QString judulBulan(int bulan) { return QString::fromUtf8(kBarisBulan[static_cast<size_t>(bulan - 1)]); }
+QString tahunKedepan(int n) { return QString::number(n) + QStringLiteral(" tahun kedepan"); }
+
+void tentang(FrmHisab& j, QAction&) {
+    BukaPesan(&j, QMessageBox::Information, QStringLiteral("Seng Nggawe Program"),
+              QStringLiteral("Lek botoh bantuan nilpuno nang seng gawe :\n\n"
+                             "Nama : Tim pengembang falak\n"
+                             "Alamat : -\n"
+                             "Email : -\n"
+                             "Telp. : -"));
+}
+
+ItemMenu bolehSibuk(ItemMenu item) {
+    item.bolehSaatSibuk = true;
+    return item;
+}
+
+}  // namespace
+
+ItemMenu Menu(std::string_view induk, std::string_view kunci, std::string_view judul) {
+    ItemMenu m;
+    m.jenis = ItemMenu::Jenis::Menu;
+    m.induk = induk;
+    m.kunci = kunci;
+    m.judul = judul;
+    return m;
+}
+
+ItemMenu MenuJendela(std::string_view induk, std::string_view kunci, std::string_view judul) {
+    ItemMenu m = Menu(induk, kunci, judul);
+    m.diisiJendela = true;
+    return m;
+}
+
+ItemMenu Pemisah(std::string_view induk, std::string_view kunci) {
+    ItemMenu m;
+    m.jenis = ItemMenu::Jenis::Pemisah;
+    m.induk = induk;
+    m.kunci = kunci;
+    return m;
+}
+
+ItemMenu Perintah(std::string_view induk, std::string_view kunci, std::string_view judul, AksiMenu aksi,
+                  QKeySequence pintasan) {
+    ItemMenu m;
+    m.induk = induk;
+    m.kunci = kunci;
+    m.judul = judul;
+    m.aksi = aksi;
+    m.pintasan = pintasan;
+    return m;
+}
+
+ItemMenu PerModul(std::string_view induk, std::string_view kunci, Garapan garapan, AksiModul aksi) {
+    ItemMenu m;
+    m.jenis = ItemMenu::Jenis::PerModul;
+    m.induk = induk;
+    m.kunci = kunci;
+    m.garapan = garapan;
+    m.aksiModul = aksi;
+    return m;
+}
+
+ItemMenu PerNomor(std::string_view induk, std::string_view kunci, int dari, int sampai, JudulNomor judul,
+                  AksiNomor aksi) {
+    ItemMenu m;
+    m.jenis = ItemMenu::Jenis::PerNomor;
+    m.induk = induk;
+    m.kunci = kunci;
+    m.dari = dari;
+    m.sampai = sampai;
+    m.judulNomor = judul;
+    m.aksiNomor = aksi;
+    return m;
+}
+
+const std::vector<ItemMenu>& DaftarMenu() {
+    static const std::vector<ItemMenu> daftar = {
+        Menu("", "FILE", "&File"),
+        Menu("FILE", "mnuExport", "Kirim ke Excel (&Export to Excel)"),
+        Perintah("mnuExport", "mnuExportThis", "&Halaman Ini Saja", nullptr, QKeySequence(Qt::CTRL | Qt::Key_E)),
+        Perintah("mnuExport", "mnuExportKet", "&Keterangan Saja", nullptr),
+        Perintah("mnuExport", "mnuExportAll", "Se&mua", nullptr, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)),
+        Perintah("FILE", "mnuExportRumus", "Kirim Rumus ke Word (&Export to Word)", nullptr),
+        Pemisah("FILE", "SEPARATOR1"),
+        Perintah("FILE", "mnuPrint", "Cetak (&Print)", nullptr, QKeySequence::Print),
+        Pemisah("FILE", "SEPARATOR2"),
+        bolehSibuk(Perintah("FILE", "mnuExit", "Keluar (&Exit)", keluar, QKeySequence::Quit)),
+
+        Menu("", "EDIT", "&Edit"),
+        Perintah("EDIT", "mnuPicRumuz", "Tampilkan &Rumuz", nullptr),
+        Pemisah("EDIT", "SEPARATOR3"),
+        Perintah("EDIT", "mnuNewDaerah", "Tambah/Hapus &Daerah", bukaDaerah, QKeySequence::Open),
+
+        Menu("", "PROSESMENU", "Proses"),
+        Menu("PROSESMENU", "mnuProsesIj", "Hisab Awal Bulan"),
+        PerModul("mnuProsesIj", "mnuProsesIj", Garapan::Ij, prosesKitab),
+        Menu("PROSESMENU", "mnuProsesGB", "Gerhana Bulan"),
+        PerModul("mnuProsesGB", "mnuProsesGB", Garapan::Hs, nullptr),
+        Menu("PROSESMENU", "mnuProsesGM", "Gerhana Matahari"),
+        PerModul("mnuProsesGM", "mnuProsesGM", Garapan::Kf, nullptr),
+        Pemisah("PROSESMENU", "SEPARATOR4"),
+        Perintah("PROSESMENU", "mnuProsesAll", "Proses semua metode", prosesSemuaMetode),
+        Menu("PROSESMENU", "mnuBulan", "Bulan"),
+        PerNomor("mnuBulan", "mnuBulan", 1, 12, judulBulan, prosesBulan),
+        Perintah("PROSESMENU", "mnu12Bulan", "Satu tahun", prosesSetahun),
+        Pemisah("PROSESMENU", "SEPARATOR5"),
+        Menu("PROSESMENU", "mnuthGerhanaB", "Gerhana Bulan Beberapa Tahun"),
+        PerNomor("mnuthGerhanaB", "mnthGB", 1, 10, tahunKedepan, nullptr),
+        Menu("PROSESMENU", "mnuthGerhanaM", "Gerhana Matahari Beberapa Tahun"),
+        PerNomor("mnuthGerhanaM", "mnthGM", 1, 10, tahunKedepan, nullptr),
+
+        MenuJendela("", "SHEETSMENU", "&Lembar"),
+
+        Menu("", "HELP", "&Help"),
+        bolehSibuk(Perintah("HELP", "mnuAbout", "Seng Nggawe Program", tentang)),
+    };
+    return daftar;
+}
+
+MenuTerbangun BangunMenu(FrmHisab& jendela, QMenuBar& bar, const std::vector<ItemMenu>& daftar) {
+    MenuTerbangun hasil;
+    std::map<std::string_view, QMenu*> menu;
+    std::vector<std::pair<QMenu*, bool>> urutan;  // with whether the window fills it
+    auto tambah = [&](const ItemMenu& item, const QString& kunci, const QString& judul) {
+        QAction* a = menu.at(item.induk)->addAction(judul);
+        a->setObjectName(kunci);
+        if (!item.bolehSaatSibuk) hasil.sibuk << a;
+        return a;
+    };
+    for (const ItemMenu& item : daftar) {
+        using enum ItemMenu::Jenis;
+        switch (item.jenis) {
+            case Menu: {
+                QMenu* m = item.induk.empty() ? bar.addMenu(q(item.judul)) : menu.at(item.induk)->addMenu(q(item.judul));
+                m->setObjectName(q(item.kunci));
+                menu[item.kunci] = m;
+                urutan.emplace_back(m, item.diisiJendela);
+                break;
+            }
+            case Pemisah:
+                menu.at(item.induk)->addSeparator()->setObjectName(q(item.kunci));
+                break;
+            case Perintah: {
+                if (!item.aksi) break;
+                QAction* a = tambah(item, q(item.kunci), q(item.judul));
+                a->setShortcut(item.pintasan);
+                QObject::connect(a, &QAction::triggered, &jendela, [&jendela, a, f = item.aksi] { f(jendela, *a); });
+                if (item.perbarui) hasil.perbarui.emplace_back(a, item.perbarui);
+                break;
+            }
+            case PerModul:
+                if (!item.aksiModul) break;
+                for (const EntriModul& e : DaftarModul()) {
+                    if (e.garapan != item.garapan || !jendela.ruangKerja().modul(e)) continue;
+                    QAction* a = tambah(item, q(item.kunci) + QStringLiteral("|%1").arg(e.kodeLembar), q(e.nama));
+                    QObject::connect(a, &QAction::triggered, &jendela,
+                                     [&jendela, &e, f = item.aksiModul] { f(jendela, e); });
+                }
+                break;
+            case PerNomor:
+                if (!item.aksiNomor) break;
+                for (int n = item.dari; n <= item.sampai; ++n) {
+                    QAction* a = tambah(item, q(item.kunci) + QStringLiteral("|%1").arg(n), item.judulNomor(n));
+                    QObject::connect(a, &QAction::triggered, &jendela, [&jendela, n, f = item.aksiNomor] { f(jendela, n); });
+                }
+                break;
+        }
+    }
+    // A menu with nothing to choose is not there; an inner menu first, so that its parent
+    // then knows whether anything is left in it. The window's own menus wait hidden.
+    for (auto it = urutan.rbegin(); it != urutan.rend(); ++it) {
+        auto [m, diisiJendela] = *it;
+        bool ada = false;
+        for (const QAction* a : m->actions()) ada = ada || !a->isSeparator();
+        if (diisiJendela) m->menuAction()->setVisible(ada);
+        else if (!ada) delete m;
+    }
+    return hasil;
+}
+
+bool AdaGarapan(FrmHisab& jendela) {
+    if (jendela.lembarAktif()) return true;
+    BukaPesan(&jendela, QMessageBox::Critical, QStringLiteral("Ojok gerusa gerusu...!"),
+              QStringLiteral("Export tidak dapat dilakukan, garapan hisab belum ada.\n"
+                             "Pastikan Anda telah membuat garapan hisab sebelum mengExportnya ke Microsoft Excel."));
+    return false;
+}
+
+}  // namespace falak::ui
