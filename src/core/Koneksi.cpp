@@ -10,7 +10,7 @@ std::vector<Tabel*> ClsConnection::semua() {
     return {&Daerah,      &ClearTxtMargen,  &Lines,      &ListTxt,     &MergenExcel,    &Names,
             &Refraksi,        &TafawutWIB, &TQQDaqoiqAhTaf, &TQQImkanGerhana, &TQQRumuz,
             &TQQSaah,     &TQQSyahru,       &TQQTaadil,  &TQQthMab,    &TQQYaumTam,     &TRBSyahru,
-            &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2};
+            &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2,     &ERBumi};
 }
 
 Tabel* ClsConnection::tabel(std::string_view nama) {

@@ -50,7 +50,7 @@ public:
         TQQRumuz{"TQQRumuz"}, TQQSaah{"TQQSaah"}, TQQSyahru{"TQQSyahru"}, TQQTaadil{"TQQTaadil"},
         TQQthMab{"TQQthMab"}, TQQYaumTam{"TQQYaumTam"}, TRBSyahru{"TRBSyahru"}, TRBSyahruSH{"TRBSyahruSH"},
         TRBTaadil{"TRBTaadil"}, TRBTaadilSH{"TRBTaadilSH"}, TRBthMabSH{"TRBthMabSH"}, TdlTA1{"TdlTA1"},
-        TdlTA2{"TdlTA2"};
+        TdlTA2{"TdlTA2"}, ERBumi{"ERBumi"};
 
     // Every table in the order of opening.
     std::vector<Tabel*> semua();

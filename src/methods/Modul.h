@@ -13,6 +13,7 @@
 #include "core/Nilai.h"
 #include "core/Sheet.h"
 #include "methods/Baris.h"
+#include "rumus/Rumus.h"
 
 namespace falak {
 
@@ -45,6 +46,7 @@ struct HasilHitung {
     std::vector<std::string> kesimpulan;  // the heading first
     std::vector<BarisTercatat> baris;     // every row of the run, named as the book names it
     Ringkasan ringkasan;
+    std::optional<LembarRumus> rumus;     // the formula sheet of a precise book's run
 
     // A new sheet at the end of the list, to be painted.
     Sheet& lembarBaru(std::string awalan, std::string judul = {}) {

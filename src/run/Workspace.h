@@ -106,6 +106,7 @@ public:
     ClsTaadil taadil;
     Kemajuan kemajuan;
     std::vector<std::unique_ptr<LembarKerja>> lembar;
+    DaftarRumus rumus;  // the formula sheets of the precise books' runs, by tab
 
 private:
     // The year text as the year check reads it; a message when it is not filled in.
