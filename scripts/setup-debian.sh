@@ -4,8 +4,11 @@ set -eu
 
 # Qt 6 for the desktop program, and the fonts its sheets name: Amiri for the Arabic frames,
 # DejaVu Sans for the Latin ones (fontconfig finds them, also on the offscreen platform).
+# libxlsxwriter writes the spreadsheets; openpyxl reads them back in the tests, and poppler's
+# tools render and read the printed pages.
 PAKET="build-essential cmake pkg-config googletest libgtest-dev libbenchmark-dev python3
-  qt6-base-dev fontconfig fonts-hosny-amiri fonts-dejavu-core"
+  qt6-base-dev fontconfig fonts-hosny-amiri fonts-dejavu-core
+  libxlsxwriter-dev python3-openpyxl poppler-utils"
 
 # The generator of the Earth's series reads an npm package, pinned by its lock file; without
 # npm (or its registry) the byte-for-byte check of that table is skipped.

@@ -1,4 +1,5 @@
-// A folder of tables for one test, made fresh and removed afterwards.
+// A folder of tables for one test, made fresh and removed afterwards: the shipped tables, over
+// which a test writes the ones it makes itself.
 #pragma once
 
 #include <filesystem>
@@ -19,6 +20,9 @@ public:
         std::filesystem::remove_all(akar_);
         std::filesystem::create_directories(akar_ / "data");
         std::filesystem::create_directories(akar_ / "pengguna");
+        for (const auto& berkas : std::filesystem::directory_iterator(FALAK_DATA_UJI))
+            if (berkas.path().extension() == ".csv" && berkas.path().filename() != "Balad.csv")
+                std::filesystem::copy_file(berkas.path(), akar_ / "data" / berkas.path().filename());
     }
     ~FolderUji() { std::filesystem::remove_all(akar_); }
     FolderUji(const FolderUji&) = delete;

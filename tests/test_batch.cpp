@@ -5,7 +5,7 @@
 #include <sstream>
 
 #include "FolderUji.h"
-#include "cli/PerintahBatch.h"
+#include "cli/Perintah.h"
 #include "core/Koneksi.h"
 #include "run/Workspace.h"
 
@@ -20,10 +20,10 @@ struct Batch : testing::Test {
         folder.tabel("Balad", "BaladIN,BaladAR,DarojatArdlu,DaqiqohArdlu,ArahArdlu,DarojatThul,DaqiqohThul,ArahThul,"
                               "ZonaTime,Ketinggian\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n");
     }
-    int jalan(int (*perintah)(const std::vector<std::string>&, const LokasiData&, std::ostream&, std::ostream&),
-              std::vector<std::string> argumen, std::string& keluar, std::string& galat) {
+    int jalan(std::vector<std::string> argumen, std::string& keluar, std::string& galat) {
+        std::istringstream in;
         std::ostringstream out, err;
-        const int s = perintah(argumen, folder.lokasi(), out, err);
+        const int s = cli::Jalankan(argumen, {folder.lokasi(), in, out, err});
         keluar = out.str();
         galat = err.str();
         return s;
@@ -90,7 +90,7 @@ TEST_F(Batch, TwelveMonthsAndTheStopBetweenRuns) {
 
 TEST_F(Batch, CommandsPrintAlignedTablesAndJson) {
     std::string out, err;
-    ASSERT_EQ(jalan(cli::perintahSemua, {"--tahun", "1445", "--bulan", "8"}, out, err), 0) << err;
+    ASSERT_EQ(jalan({"semua", "--tahun", "1445", "--bulan", "8"}, out, err), 0) << err;
     std::istringstream baris(out);
     std::string tempat, kepala, b;
     std::getline(baris, tempat);
@@ -111,15 +111,15 @@ TEST_F(Batch, CommandsPrintAlignedTablesAndJson) {
     }
     EXPECT_EQ(n, kUrutan.size());
 
-    ASSERT_EQ(jalan(cli::perintahSetahun, {"--kitab", "KW1", "--tahun", "1445", "--json"}, out, err), 0) << err;
+    ASSERT_EQ(jalan({"setahun", "--kitab", "KW1", "--tahun", "1445", "--json"}, out, err), 0) << err;
     EXPECT_EQ(out.front(), '{');
     EXPECT_NE(out.find("\"kitab\": \"KW1\", \"nama\": \"Khulashotu al-Wafiyah Taqribi\", \"tahun\": 1445, \"bulan\": 12"),
               std::string::npos);
 
-    EXPECT_EQ(jalan(cli::perintahSemua, {"--tahun", "1445", "--bulan", "13"}, out, err), 2);
+    EXPECT_EQ(jalan({"semua", "--tahun", "1445", "--bulan", "13"}, out, err), 2);
     EXPECT_NE(err.find("bulan \"13\" tidak ada"), std::string::npos);
-    EXPECT_EQ(jalan(cli::perintahSetahun, {"--kitab", "XX", "--tahun", "1445"}, out, err), 2);
+    EXPECT_EQ(jalan({"setahun", "--kitab", "XX", "--tahun", "1445"}, out, err), 2);
     EXPECT_NE(err.find("kitab \"XX\" tidak dikenal"), std::string::npos);
-    EXPECT_EQ(jalan(cli::perintahSetahun, {"--kitab", "SN", "--tahun", "1445", "--markaz", "Atlantis"}, out, err), 2);
+    EXPECT_EQ(jalan({"setahun", "--kitab", "SN", "--tahun", "1445", "--markaz", "Atlantis"}, out, err), 2);
     EXPECT_TRUE(out.empty());
 }

@@ -4,6 +4,7 @@
 #include <QComboBox>
 #include <QDialog>
 #include <QDate>
+#include <QHelpEvent>
 #include <QFontInfo>
 #include <QLabel>
 #include <QLineEdit>
@@ -16,15 +17,20 @@
 #include <QScrollBar>
 #include <QStatusBar>
 #include <QTabWidget>
+#include <QTextBlock>
+#include <QTextLayout>
+#include <QToolTip>
 #include <QTreeWidget>
 
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <fstream>
 #include <mutex>
 
 #include "JendelaUji.h"
 #include "core/Koneksi.h"
+#include "core/Sheet.h"
 #include "run/Workspace.h"
 #include "ui/FrmHisab.h"
 #include "ui/ModMenu.h"
@@ -185,7 +191,7 @@ private slots:
         const char* pohon[] = {"FILE",         "mnuExport",   "mnuExportThis", "mnuExportKet", "mnuExportAll",
                                "mnuExportRumus", "mnuPrint",  "mnuExit",       "EDIT",         "mnuPicRumuz",
                                "mnuNewDaerah", "PROSESMENU",  "mnuProsesIj",   "mnuProsesIj|2", "mnuProsesGB",
-                               "mnuProsesGM",  "mnuProsesAll", "mnuBulan",     "mnuBulan|1",   "mnu12Bulan",
+                               "mnuProsesGM",  "mnuProsesAll", "mnuProsesAll1", "mnu12Bulan1", "mnuBulan",     "mnuBulan|1",   "mnu12Bulan",
                                "mnuthGerhanaB", "mnthGB|1",   "mnuthGerhanaM", "mnthGM|1",     "HELP",
                                "mnuAbout",     "SHEETSMENU"};
         for (const QString kunci : pohon) {
@@ -301,6 +307,35 @@ private slots:
         QVERIFY(lembar(tab()->count() - 1)->objectName() != "IjSN_1");
     }
 
+    void allMethodsReplaceTheOpenSheetsUnlessANewTabIsAsked() {
+        pilih("Pasuruan", "1445", 8);
+        cari(*w, "mnuProsesAll")->trigger();
+        tungguSelesai();
+        const int n = tab()->count();
+        QCOMPARE(n, static_cast<int>(w->ruangKerja().kitabTersedia().size()));
+        QStringList kunci;
+        for (int i = 0; i < n; ++i) kunci << lembar(i)->objectName();
+
+        // Each book's new sheet stands where its old one stood, under the old key; the old
+        // sheets are gone from the session.
+        pilih("Pasuruan", "1445", 9);
+        cari(*w, "mnuProsesAll")->trigger();
+        tungguSelesai();
+        QCOMPARE(tab()->count(), n);
+        QCOMPARE(static_cast<int>(w->ruangKerja().lembar.size()), n);
+        for (int i = 0; i < n; ++i) {
+            QCOMPARE(lembar(i)->objectName(), kunci[i]);
+            QCOMPARE(tab()->tabText(i), QString("Hisab Awal Bulan 1445 H. 9"));
+        }
+
+        QCOMPARE(cari(*w, "mnuProsesAll1")->text(), QString("Proses semua metode (Tab Baru)"));
+        cari(*w, "mnuProsesAll1")->trigger();
+        tungguSelesai();
+        QCOMPARE(tab()->count(), 2 * n);
+        QCOMPARE(tab()->currentIndex(), 2 * n - 1);
+        QVERIFY(!kunci.contains(lembar(n)->objectName()));
+    }
+
     void emptyYearIsRefusedWithTheBooksMessage() {
         pilih("Pasuruan", "", 8);
         klikKitab("Sullam al-Nairoin");
@@ -377,6 +412,84 @@ private slots:
         QVERIFY(label->text().contains("tabel yang tidak bisa dibaca"));
         QVERIFY(sepi.laporanTabel().contains("TRBTaadil"));
         QCOMPARE(isiCombo(*cari<QComboBox>(sepi, "cboDaerah")), QStringList({"Pasuruan"}));
+    }
+
+    void namesOfAnyScriptAndLengthStayReadable() {
+        // A place written in Arabic, one with a very long name; the window starts anew to
+        // read them.
+        const QString makkah = QString::fromUtf8("مكة المكرمة");
+        const QString panjang = QStringLiteral("Kampung") + QStringLiteral(" Sangat Panjang Namanya").repeated(6);
+        std::ofstream(folder.berkasDaerah(), std::ios::app)
+            << makkah.toStdString() << ',' << makkah.toStdString() << ",21,25,LU,39,49,BT,3,0\n"
+            << panjang.toStdString() << ',' << panjang.toStdString() << ",7,0,LS,110,0,BT,7,0\n";
+        w = std::make_unique<FrmHisab>(folder.lokasi());
+        w->show();
+        QVERIFY(QTest::qWaitForWindowExposed(w.get()));
+
+        // The Arabic name sits whole between the label and its coordinates, which read from
+        // the left as in every other line.
+        pilih(makkah, "1445", 8);
+        klikKitab("Sullam al-Nairoin");
+        tungguSelesai();
+        QPlainTextEdit* teks = lembar(0)->kesimpulan();
+        const QString baris = QString::fromUtf8("Tempat : \u2068مكة المكرمة\u2069 21° 25' LU | 39° 49' BT");
+        const QStringList semua = teks->toPlainText().split('\n');
+        QVERIFY2(semua.contains(baris), qPrintable(semua.join('\n')));
+        const QTextBlock blok = teks->document()->findBlockByNumber(static_cast<int>(semua.indexOf(baris)));
+        QVERIFY(blok.layout() && blok.layout()->lineCount() == 1);
+        const QTextLine garis = blok.layout()->lineAt(0);
+        auto x = [&](const QString& potongan, int geser = 0) {
+            return garis.cursorToX(static_cast<int>(baris.indexOf(potongan)) + geser);
+        };
+        QVERIFY(x(":") < x(makkah) && x(":") < x(makkah, makkah.size()));
+        QVERIFY(x(makkah) < x("21") && x(makkah, makkah.size()) < x("21"));
+        QVERIFY(x("21") < x("25"));
+        QVERIFY(x("25") < x("LU"));
+        QVERIFY(x("LU") < x("39"));
+        QVERIFY(x("39") < x("49"));
+
+        // The long name: the box and its column keep their width, the text shortened and whole
+        // in its tip; the Arabic heading holds it apart.
+        auto* daerah = cari<QComboBox>(*w, "cboDaerah");
+        QVERIFY(daerah->sizeHint().width() < daerah->fontMetrics().horizontalAdvance(panjang) / 2);
+        pilih(panjang, "1445", 8);
+        klikKitab("Sullam al-Nairoin");
+        tungguSelesai();
+        GridLembar* g = lembar(1)->grid();
+        QVERIFY(g->model().index(0, 0).data().toString().endsWith(QString::fromUtf8("لبلد \u2068") + panjang + QChar(0x2069)));
+        QModelIndex sel;
+        for (int b = 0; b < g->model().rowCount() && !sel.isValid(); ++b)
+            if (g->model().index(b, 39).data().toString() == panjang) sel = g->model().index(b, 39);
+        QVERIFY(sel.isValid());
+        const int lebarNama = g->fontMetrics().horizontalAdvance(panjang);
+        QVERIFY(g->columnWidth(39) < lebarNama / 2);
+        int lebarLembar = 0;
+        for (int k = 0; k < g->model().columnCount(); ++k) lebarLembar += g->columnWidth(k);
+        QVERIFY(lebarLembar < 2000);
+        g->scrollTo(sel);
+        const QPoint titik = g->visualRect(sel).center();
+        QHelpEvent tanya(QEvent::ToolTip, titik, g->viewport()->mapToGlobal(titik));
+        QApplication::sendEvent(g->viewport(), &tanya);
+        QTRY_COMPARE(QToolTip::text(), panjang);
+
+        // The last row shown is the book's last step; the frame's spare rows below it are not.
+        pilih("Pasuruan", "1445", 8);
+        klikKitab("Fathu al-Ro'uf al-Mannan");
+        tungguSelesai();
+        const ModelLembar& fr = lembar(2)->grid()->model();
+        QVERIFY(fr.rowCount() < fr.lembar().jumlahBaris());
+        QStringList akhir;
+        for (int k = 0; k < fr.columnCount(); ++k) akhir << fr.index(fr.rowCount() - 1, k).data().toString();
+        QVERIFY2(akhir.contains(QString::fromUtf8("نور الهلال")), qPrintable(akhir.join('|')));
+
+        // Every book's name whole in the tree.
+        auto* pohon = cari<QTreeWidget>(*w, "TreeKitab");
+        for (QTreeWidgetItemIterator it(pohon); *it; ++it) {
+            const int kanan = pohon->visualItemRect(*it).left() + pohon->fontMetrics().horizontalAdvance((*it)->text(0));
+            QVERIFY2(kanan < pohon->viewport()->width(), qPrintable((*it)->text(0)));
+        }
+
+        std::ofstream(folder.berkasDaerah()) << uji::kDaerahUji;
     }
 
     void screenshotSavesTheWholeWindowAfterARun() {

@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "cli/Kalkulator.h"
+#include "cli/Perintah.h"
 
 using namespace falak::cli;
 
@@ -16,7 +17,9 @@ struct Keluaran {
 Keluaran jalankan(const std::vector<std::string>& argumen, const std::string& masukan = "") {
     std::istringstream in(masukan);
     std::ostringstream out, err;
-    const int status = perintahNilai(argumen, in, out, err);
+    std::vector<std::string> semua = {"nilai"};
+    semua.insert(semua.end(), argumen.begin(), argumen.end());
+    const int status = Jalankan(semua, {{}, in, out, err});
     return {status, out.str(), err.str()};
 }
 }  // namespace

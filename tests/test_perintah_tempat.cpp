@@ -7,7 +7,7 @@
 
 #include <unistd.h>
 
-#include "cli/PerintahTempat.h"
+#include "cli/Perintah.h"
 
 using namespace falak;
 namespace fs = std::filesystem;
@@ -30,8 +30,10 @@ struct Cli {
     }
     ~Cli() { fs::remove_all(akar); }
     int jalan(std::vector<std::string> argumen) {
+        std::istringstream in;
         std::ostringstream out, err;
-        const int status = cli::perintahTempat(argumen, lokasi, out, err);
+        argumen.insert(argumen.begin(), "tempat");
+        const int status = cli::Jalankan(argumen, {lokasi, in, out, err});
         keluar = out.str();
         galat = err.str();
         return status;
@@ -66,14 +68,15 @@ TEST(PerintahTempat, BadInputIsRefusedAndNothingIsWritten) {
     const std::string sebelum(std::istreambuf_iterator<char>(in), {});
 
     EXPECT_EQ(c.jalan({"tambah", "Bangil", "--lintang", "7 60 LS", "--bujur", "112 47 BT", "--zona", "7"}), 1);
-    EXPECT_EQ(c.galat, "falak tempat: Menit lintang harus antara 0 sampai 59, bukan 60.\n");
+    EXPECT_EQ(c.galat, "falak tempat tambah: Menit lintang harus antara 0 sampai 59, bukan 60.\n");
     EXPECT_EQ(c.jalan({"tambah", "Bangil", "--lintang", "7 LS", "--bujur", "112 47 BT", "--zona", "7"}), 1);
-    EXPECT_EQ(c.galat, "falak tempat: Tulis lintang seperti \"7 39 LS\": derajat, menit, lalu LU atau LS.\n");
+    EXPECT_EQ(c.galat, "falak tempat tambah: Tulis lintang seperti \"7 39 LS\": derajat, menit, lalu LU atau LS.\n");
     EXPECT_EQ(c.jalan({"hapus", "Bangil"}), 1);
 
     // Commands written wrongly show the usage.
     EXPECT_EQ(c.jalan({"tambah", "Bangil", "--lintang", "7 36 LS", "--zona", "7"}), 2);
-    EXPECT_EQ(c.galat.rfind("falak tempat: pilihan --bujur wajib diisi\n\nPemakaian:\n", 0), 0u);
+    EXPECT_EQ(c.galat.rfind("falak tempat tambah: pilihan --bujur wajib diisi\nPemakaian: falak tempat tambah NAMA ", 0),
+              0u);
     EXPECT_EQ(c.jalan({"ubah", "Pasuruan", "--warna", "hijau"}), 2);
     EXPECT_EQ(c.jalan({"ubah", "Pasuruan", "--zona"}), 2);
 

@@ -84,6 +84,11 @@ TEST(Sheet, TheGridWritersSayWhatEachCellHolds) {
     EXPECT_EQ(s.selLengkap(2, 7).jenis, JenisSel::Angka);
     EXPECT_EQ(s.selLengkap(2, 6).jenis, JenisSel::Label);
     EXPECT_EQ(s.selLengkap(2, 5).jenis, JenisSel::LabelArab);
+
+    // A text with a "-" on an Arabic sheet has its first character, a whole letter, moved to
+    // its end, behind the kasra: the text stays valid UTF-8 (a place named "Kec. -Desa").
+    g.FlexNama("حساب -Desa", 3, 0, 7);
+    EXPECT_EQ(s.sel(3, 0), "ِساب -Desaح");
 }
 
 }  // namespace

@@ -52,6 +52,7 @@ TEST_F(SesiUji, YearSplitIntoGroupsOfTenAndSingleYears) {
 }
 
 TEST_F(SesiUji, MonthOneTakesZeroRowsWithoutTheTable) {
+    koneksi->TRBSyahru.tutup();
     sn->Syahr(2) = Nilai("lama");
     sn->JumlahSN(1445, 1);
     EXPECT_EQ(sn->Syahr(1).teks(), "000 00 00 00 00 00 00 00 00 1");

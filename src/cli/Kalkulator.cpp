@@ -154,21 +154,14 @@ HasilBaris hitungBaris(std::string_view baris) {
     }
 }
 
-int perintahNilai(const std::vector<std::string>& argumen, std::istream& in, std::ostream& out, std::ostream& err) {
-    bool batch = false;
-    std::vector<std::string> baris;
-    for (const std::string& a : argumen) {
-        if (a == "--batch") batch = true;
-        else baris.push_back(a);
-    }
-    if (batch && !baris.empty()) {
-        err << "falak nilai: pakailah --batch tanpa operasi di baris perintah\n";
-        return 2;
-    }
-    if (!batch && baris.empty()) {
-        err << "falak nilai: belum ada operasi. Contoh: falak nilai 'tambah;3;3;1;00 10 00 00 00 1;00 20 00 00 00 1'\n";
-        return 2;
-    }
+int perintahNilai(const Argumen& a, const Lingkungan& l) {
+    const bool batch = a.ada("--batch");
+    const std::vector<std::string>& baris = a.posisi();
+    if (batch && !baris.empty()) throw SalahPakai{"pakailah --batch tanpa operasi di baris perintah"};
+    if (!batch && baris.empty()) throw SalahPakai{"belum ada operasi"};
+    std::istream& in = l.in;
+    std::ostream& out = l.out;
+    std::ostream& err = l.err;
     bool adaCacat = false;
     size_t nomor = 0;
     auto kerjakan = [&](const std::string& b) {

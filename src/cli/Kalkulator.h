@@ -1,10 +1,10 @@
 // "falak nilai": the calculator of value rows, with which a student checks his hand work.
 #pragma once
 
-#include <iosfwd>
 #include <string>
 #include <string_view>
-#include <vector>
+
+#include "cli/Perintah.h"
 
 namespace falak::cli {
 
@@ -19,6 +19,6 @@ HasilBaris hitungBaris(std::string_view baris);
 
 // The command: operations from the arguments, or with --batch one per line from input.
 // Results go to out, messages about malformed lines to err. Returns the exit status.
-int perintahNilai(const std::vector<std::string>& argumen, std::istream& in, std::ostream& out, std::ostream& err);
+int perintahNilai(const Argumen& a, const Lingkungan& l);
 
 }  // namespace falak::cli

@@ -7,60 +7,16 @@
 #include "cli/Json.h"
 #include "conclusions/Kesimpulan.h"
 #include "core/Angka.h"
+#include "core/Arah.h"
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
 #include "run/Workspace.h"
 
 namespace falak::cli {
 
-const char* const kBantuanBatch =
-    "  falak semua --tahun 1445 --bulan 8 [--markaz NAMA] [--json]\n"
-    "                                  ijtima' dan awal bulan menurut semua kitab\n"
-    "  falak setahun --kitab SN|semua --tahun 1445 [--markaz NAMA] [--json]\n"
-    "                                  dua belas bulan setahun menurut satu kitab (atau semua)\n";
-
 namespace {
-
-struct Pilihan {
-    std::string kitab;
-    std::string tahun;
-    std::string bulan;
-    std::string tempat = "Pasuruan";
-    bool json = false;
-};
-
-// Reads the options; a message and false when one is wrong.
-bool bacaPilihan(const std::string& perintah, const std::vector<std::string>& argumen,
-                 const std::vector<std::string>& boleh, Pilihan& p, std::ostream& err) {
-    for (size_t i = 0; i < argumen.size(); ++i) {
-        const std::string& a = argumen[i];
-        if (a == "--json") {
-            p.json = true;
-            continue;
-        }
-        if (std::find(boleh.begin(), boleh.end(), a) == boleh.end()) {
-            err << "falak " << perintah << ": pilihan \"" << a << "\" tidak dikenal\n";
-            return false;
-        }
-        if (i + 1 >= argumen.size()) {
-            err << "falak " << perintah << ": " << a << " butuh isian\n";
-            return false;
-        }
-        const std::string& v = argumen[++i];
-        if (a == "--kitab") p.kitab = v;
-        else if (a == "--tahun") p.tahun = v;
-        else if (a == "--bulan") p.bulan = v;
-        else p.tempat = v;
-    }
-    if (p.tahun.empty() || !AdalahAngka(p.tahun) || !BulatGenap32(ValAngka(p.tahun)) ||
-        ValAngka(p.tahun) != BulatGenap(ValAngka(p.tahun))) {
-        err << "falak " << perintah << ": tahun \"" << p.tahun
-            << "\" bukan tahun Hijriyah yang sah (tulislah misalnya --tahun 1445)\n";
-        return false;
-    }
-    return true;
-}
 
 // Width of a text as the terminal shows it: one column a character.
 size_t lebar(const std::string& s) {
@@ -79,6 +35,11 @@ std::string tanggalKata(const Nilai& t) {
     return ClsKesimpulan::NamaHari(AmbilTingkat(t, 10), "17", false) + " " + ClsKesimpulan::NamaPas(AmbilTingkat(t, 9)) +
            ", " + std::to_string(AmbilTingkat(t, 8)) + " " + ClsKesimpulan::ManaBln(AmbilTingkat(t, 7)) + " " +
            std::to_string(AmbilTingkat(t, 6));
+}
+
+// The day of the ijtima' in the book's words: "Malam Jum'at Pon, 7 Jun 2024" for its eve.
+std::string hariIjtimaKata(const Ringkasan& g) {
+    return (g.malam && !g.tanggalIjtima.kosongTeks() ? "Malam " : "") + tanggalKata(g.tanggalIjtima);
 }
 
 // The height in degrees and minutes, as the conclusion words it, without the metres.
@@ -116,8 +77,8 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
         const Ringkasan& g = r.ringkasan;
         out << (i ? ",\n" : "\n") << "    {\"kitab\": " << jsonTeks(std::string(r.modul->kode)) << ", \"nama\": " << jsonTeks(std::string(r.modul->nama))
             << ", \"tahun\": " << r.tahun << ", \"bulan\": " << r.bulan << ",\n     \"ijtima\": {\"tanggal\": "
-            << (g.tanggalIjtima.kosongTeks() ? "null" : jsonTeks(tanggalIso(g.tanggalIjtima)))
-            << ", \"hari\": " << jsonTeks(tanggalKata(g.tanggalIjtima)) << ", \"jam\": " << jsonTeks(g.jamIjtima)
+            << (g.tanggalSipil.kosongTeks() ? "null" : jsonTeks(tanggalIso(g.tanggalSipil)))
+            << ", \"hari\": " << jsonTeks(hariIjtimaKata(g)) << ", \"jam\": " << jsonTeks(g.jamIjtima)
             << "},\n     \"tinggi\": {\"nilai\": " << jsonTeks(g.tinggiHilal.teks()) << ", \"derajat\": "
             << CetakAngka((AmbilTanda(g.tinggiHilal) == 0 ? -1 : 1) * NilaiDesimal(3, g.tinggiHilal))
             << ", \"kata\": " << jsonTeks(tinggiKata(g.tinggiHilal)) << "},\n     \"awalBulan\": {\"tanggal\": "
@@ -129,26 +90,27 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
     out << "\n  ]\n}\n";
 }
 
-using Jalankan = std::function<Workspace::HasilBatch(Workspace&)>;
+using Jalankan = std::function<Workspace::HasilBatch(Workspace&, const std::string& tempat, Workspace::Keluaran)>;
 
-int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lokasi, bool kolomBulan,
-             const Jalankan& batch, std::ostream& out, std::ostream& err) {
-    ClsConnection koneksi(lokasi);
-    const std::string masalah = LaporanMasalah(koneksi.masalah());
-    err << masalah;  // one line a table, each ended
-    if (!CariTempat(koneksi.Daerah, p.tempat)) {
-        err << "falak " << perintah << ": daerah \"" << p.tempat
-            << "\" tidak ada di daftar tempat (lihat: falak tempat daftar)\n";
-        return 2;
-    }
+int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalankan& batch) {
+    ClsConnection koneksi(l.lokasi);
     Workspace ws(koneksi);
-    const Workspace::HasilBatch h = batch(ws);
-    if (h.pesan) {
-        err << h.pesan->judul << ": " << h.pesan->teks << "\n";
-        return 1;
+    l.err << LaporanMasalah(ws.masalahTabel());  // one line a table, each ended
+    const auto tempat = CariTempat(koneksi.Daerah, a.teks("--markaz"));
+    if (!tempat)
+        throw SalahPakai{"daerah \"" + a.teks("--markaz") + "\" tidak ada di daftar tempat (lihat: falak tempat daftar)"};
+    // Sheets are painted only for a workbook.
+    const Workspace::HasilBatch h =
+        batch(ws, tempat->nama, a.ada("--xlsx") ? Workspace::Keluaran::Lembar : Workspace::Keluaran::Ringkas);
+    if (h.pesan) return Tolak(a, l, h.pesan->teks);
+    if (a.ada("--xlsx")) {
+        std::vector<const LembarKerja*> semua;
+        for (const auto& lembar : ws.lembar) semua.push_back(lembar.get());
+        if (const std::string salah = EksporExcel(semua, true, koneksi, a.teks("--xlsx")); !salah.empty())
+            return Tolak(a, l, salah);
     }
-    if (p.json) {
-        tulisJson(out, ws, h.ringkas);
+    if (a.ada("--json")) {
+        tulisJson(l.out, ws, h.ringkas);
         return 0;
     }
     std::vector<Baris> tabel;
@@ -157,53 +119,30 @@ int jalankan(const std::string& perintah, const Pilihan& p, const LokasiData& lo
     tabel.push_back(kepala);
     for (const auto& r : h.ringkas) {
         const Ringkasan& g = r.ringkasan;
-        Baris b = {std::string(r.modul->kode), tanggalKata(g.tanggalIjtima), g.jamIjtima, tinggiKata(g.tinggiHilal),
+        Baris b = {std::string(r.modul->kode), hariIjtimaKata(g), g.jamIjtima, tinggiKata(g.tinggiHilal),
                    tanggalKata(g.awalBulan)};
         if (kolomBulan) b.insert(b.begin(), std::string(kBarisBulan[static_cast<size_t>(r.bulan - 1)]).substr(5));
         tabel.push_back(std::move(b));
     }
-    out << "Tempat: " << ws.sesi.tempat.nama << "\n";
-    tulisTabel(out, tabel);
+    l.out << "Tempat: " << IsolasiNama(ws.sesi.tempat.nama) << "\n";
+    tulisTabel(l.out, tabel);
     return 0;
 }
 
 }  // namespace
 
-int perintahSemua(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                  std::ostream& err) {
-    Pilihan p;
-    if (!bacaPilihan("semua", argumen, {"--tahun", "--bulan", "--markaz", "--tempat"}, p, err)) return 2;
-    const double bulan = ValAngka(p.bulan);
-    if (!AdalahAngka(p.bulan) || bulan != BulatGenap(bulan) || bulan < 1 || bulan > 12) {
-        err << "falak semua: bulan \"" << p.bulan << "\" tidak ada; pilihlah 1 sampai 12 (1 Muharrom ... 12 Dzulhijjah)\n";
-        return 2;
-    }
-    return jalankan("semua", p, lokasi, false,
-                    [&](Workspace& ws) {
-                        return ws.mnuProsesAllSub(p.tahun, static_cast<int>(bulan), p.tempat,
-                                                  Workspace::Keluaran::Ringkas);
-                    },
-                    out, err);
+int perintahSemua(const Argumen& a, const Lingkungan& l) {
+    return jalankan(a, l, false, [&](Workspace& ws, const std::string& tempat, Workspace::Keluaran keluaran) {
+        return ws.mnuProsesAllSub(a.teks("--tahun"), a.bulat("--bulan"), tempat, keluaran);
+    });
 }
 
-int perintahSetahun(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                    std::ostream& err) {
-    Pilihan p;
-    p.kitab = "SN";
-    if (!bacaPilihan("setahun", argumen, {"--kitab", "--tahun", "--markaz", "--tempat"}, p, err)) return 2;
-    const bool semua = p.kitab == "semua";
-    if (!semua && !CariModul(p.kitab)) {
-        std::string daftar;
-        for (const EntriModul* k : Workspace::kitabTerdaftar()) daftar += (daftar.empty() ? "" : ", ") + std::string(k->kode);
-        err << "falak setahun: kitab \"" << p.kitab << "\" tidak dikenal. Pilihan: " << daftar << ", semua\n";
-        return 2;
-    }
-    return jalankan("setahun", p, lokasi, true,
-                    [&](Workspace& ws) {
-                        return semua ? ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat, Workspace::Keluaran::Ringkas)
-                                     : ws.mnu12BulanSub(p.kitab, p.tahun, p.tempat, Workspace::Keluaran::Ringkas);
-                    },
-                    out, err);
+int perintahSetahun(const Argumen& a, const Lingkungan& l) {
+    const std::string kitab = a.teks("--kitab");
+    return jalankan(a, l, true, [&](Workspace& ws, const std::string& tempat, Workspace::Keluaran keluaran) {
+        return kitab == "semua" ? ws.duaBelasBulanSemuaKitab(a.teks("--tahun"), tempat, keluaran)
+                                : ws.mnu12BulanSub(kitab, a.teks("--tahun"), tempat, keluaran);
+    });
 }
 
 }  // namespace falak::cli

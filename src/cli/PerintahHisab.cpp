@@ -8,25 +8,12 @@
 #include "core/Daerah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
 #include "run/Workspace.h"
 
 namespace falak::cli {
 
 namespace {
-
-struct Pilihan {
-    std::string kitab = "SN";
-    std::string tahun;
-    std::string bulan;
-    std::string tempat = "Pasuruan";
-    bool json = false;
-};
-
-std::string daftarKode() {
-    std::string s;
-    for (const EntriModul* k : Workspace::kitabTerdaftar()) s += (s.empty() ? "" : ", ") + std::string(k->kode);
-    return s;
-}
 
 void tulisJson(std::ostream& out, const LembarKerja& tab, const Sesi& sesi, const Tempat& t) {
     out << "{\n  \"kitab\": " << jsonTeks(std::string(tab.modul->kode)) << ",\n  \"kunci\": " << jsonTeks(tab.kunci)
@@ -62,63 +49,29 @@ void tulisJson(std::ostream& out, const LembarKerja& tab, const Sesi& sesi, cons
 
 }  // namespace
 
-int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, std::ostream& err) {
-    Pilihan p;
-    for (size_t i = 0; i < argumen.size(); ++i) {
-        const std::string& a = argumen[i];
-        auto nilai = [&]() -> const std::string* {
-            if (i + 1 >= argumen.size()) return nullptr;
-            return &argumen[++i];
-        };
-        const std::string* v = nullptr;
-        if (a == "--json") { p.json = true; continue; }
-        if (a != "--kitab" && a != "--tahun" && a != "--bulan" && a != "--markaz" && a != "--tempat") {
-            err << "falak hisab: pilihan \"" << a << "\" tidak dikenal\n";
-            return 2;
-        }
-        if (!(v = nilai())) {
-            err << "falak hisab: " << a << " butuh isian\n";
-            return 2;
-        }
-        if (a == "--kitab") p.kitab = *v;
-        else if (a == "--tahun") p.tahun = *v;
-        else if (a == "--bulan") p.bulan = *v;
-        else p.tempat = *v;
-    }
-    if (!CariModul(p.kitab)) {
-        err << "falak hisab: kitab \"" << p.kitab << "\" tidak dikenal. Pilihan: " << daftarKode() << "\n";
-        return 2;
-    }
-    if (!p.tahun.empty() && p.tahun.find('-') == std::string::npos && !(AdalahAngka(p.tahun) && BulatGenap32(ValAngka(p.tahun)) && ValAngka(p.tahun) == BulatGenap(ValAngka(p.tahun)))) {
-        err << "falak hisab: tahun \"" << p.tahun << "\" bukan tahun Hijriyah yang sah (tulislah misalnya 1445)\n";
-        return 2;
-    }
-    const double bulan = ValAngka(p.bulan);
-    if (!AdalahAngka(p.bulan) || bulan != BulatGenap(bulan) || bulan < 1 || bulan > 12) {
-        err << "falak hisab: bulan \"" << p.bulan << "\" tidak ada; pilihlah 1 sampai 12 (1 Muharrom ... 12 Dzulhijjah)\n";
-        return 2;
-    }
-
-    ClsConnection koneksi(CariLokasiData());
-    const std::string masalah = LaporanMasalah(koneksi.masalah());
-    err << masalah;  // one line a table, each ended
+int perintahHisab(const Argumen& a, const Lingkungan& l) {
+    const std::string kitab = a.teks("--kitab");
+    if (kitab == "semua") throw SalahPakai{"hisab memakai satu kitab; untuk semua kitab pakailah falak semua"};
+    ClsConnection koneksi(l.lokasi);
     Workspace ws(koneksi);
-    if (!CariTempat(koneksi.Daerah, p.tempat)) {
-        err << "falak hisab: daerah \"" << p.tempat << "\" tidak ada di daftar tempat (lihat: falak tempat daftar)\n";
-        return 2;
-    }
-    const auto hasil = ws.mnuProsesIjSub(p.kitab, p.tahun, static_cast<int>(bulan), p.tempat);
-    if (hasil.pesan) {
-        err << hasil.pesan->judul << ": " << hasil.pesan->teks << "\n";
-        return 1;
-    }
+    l.err << LaporanMasalah(ws.masalahTabel());  // one line a table, each ended
+    const auto tempat = CariTempat(koneksi.Daerah, a.teks("--markaz"));
+    if (!tempat) throw SalahPakai{"daerah \"" + a.teks("--markaz") + "\" tidak ada di daftar tempat (lihat: falak tempat daftar)"};
+    const auto hasil = ws.mnuProsesIjSub(kitab, a.teks("--tahun"), a.bulat("--bulan"), tempat->nama);
+    if (hasil.pesan) return Tolak(a, l, hasil.pesan->teks);
     const LembarKerja& tab = *hasil.lembar;
-    if (p.json) {
-        tulisJson(out, tab, ws.sesi, ws.sesi.tempat);
+    if (a.ada("--xlsx")) {
+        std::vector<const LembarKerja*> semua;
+        for (const auto& lembar : ws.lembar) semua.push_back(lembar.get());
+        if (const std::string salah = EksporExcel(semua, true, koneksi, a.teks("--xlsx")); !salah.empty())
+            return Tolak(a, l, salah);
+    }
+    if (a.ada("--json")) {
+        tulisJson(l.out, tab, ws.sesi, ws.sesi.tempat);
         return 0;
     }
-    out << tab.judul << " - " << ws.sesi.namaKitab << "\n\n" << tampilLembar(tab.lembar) << "\n";
-    for (const std::string& baris : tab.kesimpulan) out << baris << "\n";
+    l.out << tab.judul << " - " << ws.sesi.namaKitab << "\n\n" << tampilLembar(tab.lembar) << "\n";
+    for (const std::string& baris : tab.kesimpulan) l.out << baris << "\n";
     return 0;
 }
 

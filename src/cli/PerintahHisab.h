@@ -1,12 +1,10 @@
 // "falak hisab": one month by one treatise, as the worked sheet and its conclusion.
 #pragma once
 
-#include <iosfwd>
-#include <string>
-#include <vector>
+#include "cli/Perintah.h"
 
 namespace falak::cli {
 
-int perintahHisab(const std::vector<std::string>& argumen, std::ostream& out, std::ostream& err);
+int perintahHisab(const Argumen& a, const Lingkungan& l);
 
 }  // namespace falak::cli

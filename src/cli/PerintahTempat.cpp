@@ -10,35 +10,7 @@
 
 namespace falak::cli {
 
-const char* const kBantuanTempat =
-    "  falak tempat daftar             daftar tempat dan berkas yang dipakai\n"
-    "  falak tempat tambah NAMA --lintang \"7 39 LS\" --bujur \"112 56 BT\" --zona 7 [--tinggi M] [--arab TEKS]\n"
-    "  falak tempat ubah NAMA [--nama BARU] [--lintang ..] [--bujur ..] [--zona ..] [--tinggi ..] [--arab ..]\n"
-    "  falak tempat hapus NAMA\n";
-
 namespace {
-
-constexpr const char* kAwalan = "falak tempat: ";
-
-// A command written wrongly: told with the usage, exit 2.
-struct SalahTulis {
-    std::string pesan;
-};
-
-using Opsi = std::map<std::string, std::string, std::less<>>;
-
-// The options after the name: "--key value" pairs from the allowed set.
-Opsi bacaOpsi(const std::vector<std::string>& argumen, size_t dari, std::initializer_list<std::string_view> boleh) {
-    Opsi opsi;
-    for (size_t i = dari; i < argumen.size(); i += 2) {
-        const std::string& kunci = argumen[i];
-        if (std::find(boleh.begin(), boleh.end(), kunci) == boleh.end())
-            throw SalahTulis{"pilihan \"" + kunci + "\" tidak dikenal"};
-        if (i + 1 >= argumen.size()) throw SalahTulis{"pilihan " + kunci + " belum diberi isi"};
-        if (!opsi.emplace(kunci, argumen[i + 1]).second) throw SalahTulis{"pilihan " + kunci + " ditulis dua kali"};
-    }
-    return opsi;
-}
 
 // "7 39 LS", "7:39:LS" or "7°39' LS" into degrees, minutes and side; the checks of value are
 // the register's.
@@ -67,8 +39,8 @@ std::optional<std::string> bacaSudut(std::string_view teks, std::string& derajat
 }
 
 // The options into a place's fields; only the options given change anything.
-std::optional<std::string> terapkan(const Opsi& opsi, IsianTempat& isian) {
-    for (const auto& [kunci, isi] : opsi) {
+std::optional<std::string> terapkan(const Argumen& a, IsianTempat& isian) {
+    for (const auto& [kunci, isi] : a.semua()) {
         if (kunci == "--nama") isian.nama = isi;
         else if (kunci == "--arab") isian.namaTampil = isi;
         else if (kunci == "--zona") isian.zona = isi;
@@ -113,66 +85,60 @@ void daftar(const RegisterDaerah& reg, size_t jumlah, std::ostream& out) {
     }
 }
 
+// The register of the session's folders, opened for the command; a problem with its file is
+// told, and the register still serves what it could read.
+struct Register {
+    Tabel tabel{"Daerah"};
+    RegisterDaerah reg;
+
+    Register(const Argumen& a, const Lingkungan& l) : reg(tabel, BerkasDaerah(l.lokasi)) {
+        if (const std::string masalah = BukaDaerah(tabel, l.lokasi); !masalah.empty())
+            l.err << "falak " << a.perintah().nama << ": daftar tempat " << reg.berkas().string() << ": " << masalah
+                  << '\n';
+    }
+};
+
+// The change made in memory is saved; either refusal is told. Returns the exit status.
+int simpan(const Argumen& a, const Lingkungan& l, RegisterDaerah& reg, std::string tolak, std::string_view kata) {
+    if (tolak.empty()) tolak = reg.simpan();
+    if (!tolak.empty()) return Tolak(a, l, tolak);
+    l.out << "Tempat \"" << a.posisi()[0] << "\" sudah " << kata << " " << reg.berkas().string() << ".\n";
+    return 0;
+}
+
 }  // namespace
 
-int perintahTempat(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                   std::ostream& err) {
-    try {
-        if (argumen.empty()) throw SalahTulis{"perintahnya apa? daftar, tambah, ubah atau hapus"};
-        const std::string& perintah = argumen[0];
-        if (perintah != "daftar" && perintah != "tambah" && perintah != "ubah" && perintah != "hapus")
-            throw SalahTulis{"perintah \"" + perintah + "\" tidak dikenal"};
-        if (perintah == "daftar" && argumen.size() > 1) throw SalahTulis{"daftar tidak memakai isian"};
-        if (perintah != "daftar" && (argumen.size() < 2 || argumen[1].starts_with("--")))
-            throw SalahTulis{"nama tempatnya belum ditulis"};
-        if (perintah == "hapus" && argumen.size() > 2) throw SalahTulis{"hapus hanya memakai nama tempat"};
-        const Opsi opsi = perintah == "tambah" ? bacaOpsi(argumen, 2, {"--lintang", "--bujur", "--zona", "--tinggi", "--arab"})
-                          : perintah == "ubah"
-                              ? bacaOpsi(argumen, 2, {"--nama", "--lintang", "--bujur", "--zona", "--tinggi", "--arab"})
-                              : Opsi{};
-        if (perintah == "tambah")
-            for (const char* wajib : {"--lintang", "--bujur", "--zona"})
-                if (!opsi.contains(wajib)) throw SalahTulis{std::string("pilihan ") + wajib + " wajib diisi"};
-        if (perintah == "ubah" && opsi.empty()) throw SalahTulis{"tidak ada yang diubah"};
+int perintahTempatDaftar(const Argumen& a, const Lingkungan& l) {
+    Register r(a, l);
+    daftar(r.reg, r.tabel.jumlahBaris(), l.out);
+    return 0;
+}
 
-        Tabel tabel("Daerah");
-        const std::string masalah = BukaDaerah(tabel, lokasi);
-        if (!masalah.empty()) err << kAwalan << "daftar tempat " << BerkasDaerah(lokasi).string() << ": " << masalah << '\n';
-        RegisterDaerah reg(tabel, BerkasDaerah(lokasi));
+int perintahTempatTambah(const Argumen& a, const Lingkungan& l) {
+    Register r(a, l);
+    IsianTempat isian;
+    isian.nama = a.posisi()[0];
+    const auto salah = terapkan(a, isian);
+    return simpan(a, l, r.reg, salah ? *salah : r.reg.tambah(isian), "ditambahkan ke");
+}
 
-        if (perintah == "daftar") {
-            daftar(reg, tabel.jumlahBaris(), out);
-            return 0;
-        }
-
-        const std::string& nama = argumen[1];
-        std::string tolak;
-        if (perintah == "hapus") {
-            tolak = reg.hapus(nama);
-        } else {
-            const auto ada = reg.cari(nama);
-            IsianTempat isian;
-            if (perintah == "tambah") isian.nama = nama;
-            else if (ada) {
-                isian = reg.isian(*ada);
-                // A display name that only repeated the name follows the name when it changes.
-                if (isian.namaTampil == isian.nama) isian.namaTampil.clear();
-            }
-            if (auto s = terapkan(opsi, isian)) tolak = *s;
-            else tolak = perintah == "tambah" ? reg.tambah(isian) : reg.ubah(nama, isian);
-        }
-        if (tolak.empty()) tolak = reg.simpan();
-        if (!tolak.empty()) {
-            err << kAwalan << tolak << '\n';
-            return 1;
-        }
-        const std::string kata = perintah == "tambah" ? "ditambahkan ke" : perintah == "ubah" ? "diubah di" : "dihapus dari";
-        out << "Tempat \"" << nama << "\" sudah " << kata << " " << reg.berkas().string() << ".\n";
-        return 0;
-    } catch (const SalahTulis& s) {
-        err << kAwalan << s.pesan << "\n\nPemakaian:\n" << kBantuanTempat;
-        return 2;
+int perintahTempatUbah(const Argumen& a, const Lingkungan& l) {
+    if (a.semua().empty()) throw SalahPakai{"tidak ada yang diubah"};
+    Register r(a, l);
+    const std::string& nama = a.posisi()[0];
+    IsianTempat isian;
+    if (const auto ada = r.reg.cari(nama)) {
+        isian = r.reg.isian(*ada);
+        // A display name that only repeated the name follows the name when it changes.
+        if (isian.namaTampil == isian.nama) isian.namaTampil.clear();
     }
+    const auto salah = terapkan(a, isian);
+    return simpan(a, l, r.reg, salah ? *salah : r.reg.ubah(nama, isian), "diubah di");
+}
+
+int perintahTempatHapus(const Argumen& a, const Lingkungan& l) {
+    Register r(a, l);
+    return simpan(a, l, r.reg, r.reg.hapus(a.posisi()[0]), "dihapus dari");
 }
 
 }  // namespace falak::cli

@@ -1,26 +1,15 @@
 // "falak tempat": the places register from the command line, through the same register API
-// as the GUI's dialog.
-//
-//   falak tempat daftar
-//   falak tempat tambah NAMA --lintang "7 39 LS" --bujur "112 56 BT" --zona 7 [--tinggi M] [--arab TEKS]
-//   falak tempat ubah NAMA [--nama BARU] [--lintang ..] [--bujur ..] [--zona ..] [--tinggi ..] [--arab ..]
-//   falak tempat hapus NAMA
+// as the window's dialog. Lists and confirmations go to out, refusals and problems to err; a
+// refused change or a failed save exits 1.
 #pragma once
 
-#include <iosfwd>
-#include <string>
-#include <vector>
-
-#include "core/Berkas.h"
+#include "cli/Perintah.h"
 
 namespace falak::cli {
 
-extern const char* const kBantuanTempat;
-
-// Runs the command on the register of the given folders. Lists and confirmations go to out,
-// refusals and problems to err. Returns 0, 1 for a refused change or a failed save, 2 for a
-// command written wrongly.
-int perintahTempat(const std::vector<std::string>& argumen, const LokasiData& lokasi, std::ostream& out,
-                   std::ostream& err);
+int perintahTempatDaftar(const Argumen& a, const Lingkungan& l);
+int perintahTempatTambah(const Argumen& a, const Lingkungan& l);
+int perintahTempatUbah(const Argumen& a, const Lingkungan& l);
+int perintahTempatHapus(const Argumen& a, const Lingkungan& l);
 
 }  // namespace falak::cli

@@ -6,6 +6,7 @@
 #include <cstdlib>
 #include <limits>
 
+#include "core/Arah.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "core/Maghrib.h"
@@ -14,19 +15,62 @@ namespace falak {
 
 namespace {
 
-// Months 12 of these years of the thirty-year cycle have 30 days (15, not 16: kept).
-constexpr std::array<int, 11> kTahunKabisat = {2, 5, 7, 10, 13, 15, 18, 21, 24, 26, 29};
+// The first of the seven days in which a reckoned weekday is sought.
+constexpr int32_t kHariCariAwal = 27;
 
-bool kabisatMasehi(int64_t y) { return (y % 100 != 0 && y % 4 == 0) || y % 400 == 0; }
+int64_t bagiBawah(int64_t a, int64_t b) { return a / b - ((a % b != 0 && (a < 0) != (b < 0)) ? 1 : 0); }
 
-int umurBulanHijri(int32_t tahun, int32_t bulan) {
-    if (bulan == 12) {
-        const int sisa = tahun % 30;
-        for (int k : kTahunKabisat)
-            if (k == sisa) return 30;
-        return 29;
+struct TanggalSipil {
+    int64_t tahun;
+    int bulan;
+    int hari;
+};
+
+// The civil date of a day number (day 1 is 1 January of the year 1 on the Julian reckoning):
+// Julian up to 4 October 1582, Gregorian from the next day, 15 October, as the reform counts
+// them. The weekday and the pasaran run on the day number itself, so the date has to come
+// from the same count: a date and a weekday that disagree name two different days.
+constexpr int64_t kHariReformasi = 577738;  // 15 October 1582
+
+TanggalSipil tanggalDariHari(int64_t n) {
+    int64_t c;
+    int64_t abad = 0;
+    if (n >= kHariReformasi) {
+        const int64_t a = n + 1721423 + 32044;
+        abad = bagiBawah(4 * a + 3, 146097);
+        c = a - bagiBawah(146097 * abad, 4);
+    } else {
+        c = n + 1721423 + 32082;
     }
-    return bulan % 2 != 0 ? 30 : 29;
+    const int64_t d = bagiBawah(4 * c + 3, 1461);
+    const int64_t e = c - bagiBawah(1461 * d, 4);
+    const int64_t m = bagiBawah(5 * e + 2, 153);
+    const int hari = static_cast<int>(e - bagiBawah(153 * m + 2, 5) + 1);
+    const int bulan = static_cast<int>(m + 3 - 12 * bagiBawah(m, 10));
+    const int64_t tahun = (n >= kHariReformasi ? 100 * abad : 0) + d - 4800 + bagiBawah(m, 10);
+    return {tahun, bulan, hari};
+}
+
+// The day number of a civil date, on the same reckonings.
+int64_t hariDariTanggal(int64_t tahun, int bulan, int hari) {
+    const int64_t a = bagiBawah(14 - bulan, 12);
+    const int64_t y = tahun + 4800 - a;
+    const int64_t m = bulan + 12 * a - 3;
+    const int64_t sebelum = hari + bagiBawah(153 * m + 2, 5) + 365 * y + bagiBawah(y, 4);
+    const int64_t gregorius = sebelum - bagiBawah(y, 100) + bagiBawah(y, 400) - 32045 - 1721423;
+    return gregorius >= kHariReformasi ? gregorius : sebelum - 32083 - 1721423;
+}
+
+// A date value of a day number: the civil date with its pasaran and weekday.
+Nilai nilaiTanggal(int64_t n) {
+    const TanggalSipil t = tanggalDariHari(n);
+    int64_t W = n % 7 - 1, P = n % 5 - 1;
+    if (W < 1) W += 7;
+    if (P < 1) P += 5;
+    char bln[8];
+    std::snprintf(bln, sizeof bln, "%02d", t.bulan);
+    return Nilai(std::to_string(t.tahun) + " " + bln + " " + std::to_string(t.hari) + " " + std::to_string(P) + " " +
+                 std::to_string(W) + " 00 00 00 00 1");
 }
 
 std::string gabung(std::initializer_list<std::string_view> bagian) {
@@ -83,60 +127,24 @@ std::optional<Nilai> ClsKesimpulan::ConvertToHijri(int32_t tahun, int32_t bulan,
     if (30 * B > std::numeric_limits<int16_t>::max() || 30 * B < std::numeric_limits<int16_t>::min()) return std::nullopt;
 
     const double N = std::floor(11.0 * H / 30) + 227015 + 354.0 * H + 30.0 * B - std::floor((B - 1) / 2.0) + T - 384;
-    const double Q = std::floor(N / 1461);
-    double Y = 4 * Q;
-    const double R = N - 1461 * Q;
-    const double A = std::floor(R / 365);
-    Y = Y + A + 1;
-    double D = R - 365 * A;
-    double C = 0;
-    if (Y > 1582 || (Y == 1582 && D > 287)) C = 2 - std::floor(Y / 100) + std::floor(std::floor(Y / 100) / 4);
-    int64_t y = static_cast<int64_t>(BulatGenap(Y));
-    int64_t K = kabisatMasehi(y) ? 1 : 0;
-    D = D - C;
-    if (D >= 365 + K) {
-        y += static_cast<int64_t>(std::floor(D / static_cast<double>(365 + K)));
-        D = static_cast<double>(static_cast<int64_t>(BulatGenap(D)) % (365 + K));
-        K = kabisatMasehi(y) ? 1 : 0;
-    }
-    static constexpr int kBatas[12] = {31, 59, 90, 120, 151, 181, 212, 243, 273, 304, 334, 365};
-    int bulanMasehi = 12;
-    double hari = D;
-    for (int i = 0; i < 12; ++i) {
-        const double batas = kBatas[i] + (i == 0 ? 0 : K);
-        if (D <= batas) {
-            bulanMasehi = i + 1;
-            hari = D - (i == 0 ? 0 : kBatas[i - 1] + (i == 1 ? 0 : K));
-            break;
-        }
-    }
-    const int64_t n = static_cast<int64_t>(BulatGenap(N));
-    int64_t W = n % 7 - 1, P = n % 5 - 1;
-    if (W < 1) W += 7;
-    if (P < 1) P += 5;
-    char bln[8];
-    std::snprintf(bln, sizeof bln, "%02d", bulanMasehi);
-    return Nilai(std::to_string(y) + " " + bln + " " + std::to_string(static_cast<int64_t>(BulatGenap(hari))) + " " +
-                 std::to_string(P) + " " + std::to_string(W) + " 00 00 00 00 1");
+    return nilaiTanggal(static_cast<int64_t>(BulatGenap(N)));
+}
+
+Nilai ClsKesimpulan::GeserHari(const Nilai& tanggal, int hari) {
+    if (tanggal.kosongTeks()) return tanggal;
+    return nilaiTanggal(hariDariTanggal(AmbilTingkat(tanggal, MedanTahun), AmbilTingkat(tanggal, MedanBulan),
+                                        AmbilTingkat(tanggal, MedanTanggal)) +
+                        hari);
 }
 
 std::optional<Nilai> ClsKesimpulan::CariTHM(int32_t tahun, int32_t bulan, int32_t hari) {
     auto minggu = [](int w) { return w == 0 ? 7 : w; };
     const int dicari = minggu(hari);
-    const auto akhir = ConvertToHijri(tahun, bulan, umurBulanHijri(tahun, bulan));
-    if (!akhir) return std::nullopt;
-    if (minggu(AmbilTingkat(*akhir, MedanHari)) == dicari) return akhir;
-    for (int i = 25; i <= 34; ++i) {
-        int32_t m = bulan + 12, y = tahun - 1, d = i;
-        if (d > 30) {
-            d -= 30;
-            m += 1;
-        }
-        if (m > 12) {
-            m -= 12;
-            y += 1;
-        }
-        const auto t = ConvertToHijri(y, m, d);
+    // The ijtima' that ends a month falls, on the day counted from sunset, between the 28th
+    // and the 2nd of the next month of this calendar wherever the books are used: seven days
+    // from the 27th hold each weekday once, and the day count runs on past the month's end.
+    for (int32_t i = kHariCariAwal; i < kHariCariAwal + 7; ++i) {
+        const auto t = ConvertToHijri(tahun, bulan, i);
         if (!t) return std::nullopt;
         if (minggu(AmbilTingkat(*t, MedanHari)) == dicari) return t;
     }
@@ -342,7 +350,7 @@ std::string ClsKesimpulan::NurHilal(const Nilai& nur) {
 
 std::string ClsKesimpulan::baris(std::string_view nama, int lintangDerajat, int lintangMenit, int tandaLintang,
                                  int bujurDerajat, int bujurMenit, int tandaBujur) {
-    return rapikan(gabung({rapikan(std::string(nama)), std::to_string(lintangDerajat) + "°",
+    return rapikan(gabung({IsolasiNama(rapikan(std::string(nama))), std::to_string(lintangDerajat) + "°",
                            std::to_string(lintangMenit) + "'" + (tandaLintang != 0 ? " LU |" : " LS |"),
                            std::to_string(bujurDerajat) + "°",
                            std::to_string(bujurMenit) + "'" + (tandaBujur != 0 ? " BT" : " BB")}));

@@ -25,13 +25,15 @@ class ClsKesimpulan {
 public:
     explicit ClsKesimpulan(Sesi& sesi) : sesi_(sesi) {}
 
-    // The day of Hijri month (tahun, bulan) that falls on the reckoned weekday: the last day
-    // of the month, else the first fitting day from the 25th on. Empty when none fits; no
-    // result when the year or month overflows the reckoning.
+    // The day near the end of Hijri month (tahun, bulan) that falls on the reckoned weekday:
+    // the one of the seven days from the 27th on (past the month's end the count runs on into
+    // the next month). No result when the year or month overflows the reckoning.
     static std::optional<Nilai> CariTHM(int32_t tahun, int32_t bulan, int32_t hari);
     // A Hijri date on the Masehi calendar (the name is kept: it converts from Hijri), by the
     // arithmetic calendar of the thirty-year cycle; it touches no state.
     static std::optional<Nilai> ConvertToHijri(int32_t tahun, int32_t bulan, int32_t tanggal);
+    // The date value so many days on (back, when negative), with its pasaran and weekday.
+    static Nilai GeserHari(const Nilai& tanggal, int hari);
     // Day of the month of a less that of the Hijri date b on the Masehi calendar.
     static int16_t CekHijriHaqiqi(const Nilai& a, const Nilai& b);
     // A date in words; with bulanHijri the month list's name in front.

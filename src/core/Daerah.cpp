@@ -5,6 +5,7 @@
 #include <system_error>
 
 #include "core/Angka.h"
+#include "core/Teks.h"
 
 namespace fs = std::filesystem;
 
@@ -83,12 +84,6 @@ std::string periksaSudut(const IsianTempat& isian, bool lintang) {
     return {};
 }
 
-bool adaKendali(std::string_view s) {
-    for (const char c : s)
-        if (static_cast<unsigned char>(c) < 0x20 || c == 0x7F) return true;
-    return false;
-}
-
 std::string angkaTeks(std::string_view teks) {
     return std::to_string(static_cast<long>(ValAngka(rapikan(teks))));
 }
@@ -131,8 +126,13 @@ Tempat TempatDariBaris(const Tabel& daerah, size_t baris) {
 }
 
 std::optional<Tempat> CariTempat(Tabel& daerah, std::string_view nama) {
-    if (!daerah.cari("BaladIN", nama)) return std::nullopt;
-    return TempatDariBaris(daerah, daerah.kursor());
+    if (daerah.cari("BaladIN", nama)) return TempatDariBaris(daerah, daerah.kursor());
+    // The name as the user typed it: the same place whatever its case and outer blanks.
+    for (size_t b = 0; b < daerah.jumlahBaris(); ++b) {
+        const std::string_view tersimpan = kolomBaris(daerah, b, "BaladIN");
+        if (samaNama(tersimpan, nama) && daerah.cari("BaladIN", tersimpan)) return TempatDariBaris(daerah, daerah.kursor());
+    }
+    return std::nullopt;
 }
 
 RegisterDaerah::RegisterDaerah(Tabel& daerah, fs::path berkas) : daerah_(daerah), berkas_(std::move(berkas)) {}
@@ -176,7 +176,9 @@ std::string RegisterDaerah::kolomLengkap() const {
 std::string RegisterDaerah::periksa(const IsianTempat& isian, std::optional<size_t> kecuali) const {
     const std::string_view nama = rapikan(isian.nama);
     if (nama.empty()) return "Nama tempat belum diisi.";
-    if (adaKendali(isian.nama) || adaKendali(isian.namaTampil)) return "Nama tempat jangan pakai ganti baris atau tab.";
+    if (SalahUtf8(isian.nama) != std::string_view::npos || SalahUtf8(isian.namaTampil) != std::string_view::npos)
+        return "Nama tempat memuat huruf yang rusak (bukan teks UTF-8 yang sah); tulis lagi namanya.";
+    if (AdaKendali(isian.nama) || AdaKendali(isian.namaTampil)) return "Nama tempat jangan pakai ganti baris atau tab.";
     if (const auto ada = cari(nama); ada && ada != kecuali)
         return "Tempat \"" + std::string(kolomBaris(daerah_, *ada, "BaladIN")) +
                "\" sudah ada di daftar. Pakai nama lain, atau ubah yang sudah ada.";

@@ -36,8 +36,9 @@ std::string BukaDaerah(Tabel& daerah, const LokasiData& lokasi);
 // The place record of a register row: names trimmed, "LS" south and anything else north,
 // "BT" east and anything else west, numbers read as the kernel reads table cells.
 Tempat TempatDariBaris(const Tabel& daerah, size_t baris);
-// The run's search "BaladIN = 'name'": the record of the first row with that name, and the
-// table's cursor on it; no value when the place is not there.
+// The run's search "BaladIN = 'name'": the record of the first row with that name (compared
+// as RegisterDaerah::cari compares, trimmed and without regard to case), and the table's
+// cursor on it; no value when the place is not there.
 std::optional<Tempat> CariTempat(Tabel& daerah, std::string_view nama);
 
 // A place as the user types it, field by field.

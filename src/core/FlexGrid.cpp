@@ -42,7 +42,10 @@ void ClsFlexGrid::FlexNama(std::string_view teks, int baris, int kolom1, int kol
     if (lembar_->arab) {
         const bool minus = isi.find('-') != std::string::npos;
         if (minus && !isi.empty()) {
-            std::rotate(isi.begin(), isi.begin() + 1, isi.end());
+            // The first character, not its first byte: an Arabic letter is two.
+            size_t panjang = 1;
+            while (panjang < isi.size() && (static_cast<unsigned char>(isi[panjang]) & 0xC0) == 0x80) ++panjang;
+            std::rotate(isi.begin(), isi.begin() + static_cast<std::ptrdiff_t>(panjang), isi.end());
         }
         if (!isi.empty()) {
             const bool tandaKurung = teks == "(-)" || teks == "(+)";

@@ -1,5 +1,8 @@
 #include "core/Koneksi.h"
 
+#include "core/Angka.h"
+#include "core/Teks.h"
+
 namespace falak {
 
 ClsConnection::ClsConnection(LokasiData lokasi) : lokasi_(std::move(lokasi)) {
@@ -35,6 +38,22 @@ void ClsConnection::BukaTabel(Tabel& tabel, std::string_view nama) {
 std::string ClsConnection::WriteToFile(Tabel& tabel) {
     if (&tabel != &Daerah) return "Hanya daftar tempat yang boleh disimpan.";
     return registerDaerah().simpan();
+}
+
+std::string PeriksaIsi(const Tabel& tabel) {
+    if (!tabel.terbuka()) return "tabel tidak terbuka";
+    if (tabel.jumlahBaris() == 0) return "tabel kosong, tidak ada baris isian";
+    const auto& kolom = tabel.kolom();
+    for (size_t k = 0; k < kolom.size(); ++k) {
+        if (kolom[k] == "mn" || kolom[k] == "IsiText" || kolom[k].starts_with("Nama")) continue;
+        for (size_t b = 0; b < tabel.jumlahBaris(); ++b) {
+            const std::string_view sel = tabel.sel(b, k);
+            if (!sel.empty() && !AdalahAngka(sel))
+                return "baris isian ke-" + std::to_string(b + 1) + ", kolom " + kolom[k] + ": \"" +
+                       Pendekkan(sel, 40) + "\" bukan angka";
+        }
+    }
+    return {};
 }
 
 std::string LaporanMasalah(const std::vector<MasalahTabel>& masalah) {

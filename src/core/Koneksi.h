@@ -60,6 +60,12 @@ private:
     std::vector<MasalahTabel> masalah_;
 };
 
+// What makes an open table unfit for a run: it has no rows, or a cell that holds a number in
+// the books holds something else. A column of words (a mansion's name "mn", the texts
+// "IsiText", the names "Nama...") may hold anything; an empty cell is allowed anywhere, since
+// the books leave cells blank. Empty when the table is sound.
+std::string PeriksaIsi(const Tabel& tabel);
+
 // One plain message for the user about the tables that could not be read; empty when none.
 std::string LaporanMasalah(const std::vector<MasalahTabel>& masalah);
 

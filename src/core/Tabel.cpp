@@ -5,6 +5,7 @@
 
 #include "core/Angka.h"
 #include "core/Berkas.h"
+#include "core/Teks.h"
 
 namespace falak {
 
@@ -16,36 +17,6 @@ size_t barisDi(std::string_view isi, size_t pos) {
     for (size_t i = 0; i < pos && i < isi.size(); ++i)
         if (isi[i] == '\n') ++baris;
     return baris;
-}
-
-// Position of the first byte that breaks UTF-8 (overlong forms, surrogates and code points
-// past U+10FFFF included), or npos.
-size_t salahUtf8(std::string_view s) {
-    const auto* p = reinterpret_cast<const unsigned char*>(s.data());
-    const size_t n = s.size();
-    size_t i = 0;
-    while (i < n) {
-        const unsigned char c = p[i];
-        if (c < 0x80) {
-            ++i;
-            continue;
-        }
-        size_t lanjut;
-        uint32_t kode;
-        if (c >= 0xC2 && c <= 0xDF) { lanjut = 1; kode = c & 0x1F; }
-        else if (c >= 0xE0 && c <= 0xEF) { lanjut = 2; kode = c & 0x0F; }
-        else if (c >= 0xF0 && c <= 0xF4) { lanjut = 3; kode = c & 0x07; }
-        else return i;
-        for (size_t k = 1; k <= lanjut; ++k) {
-            if (i + k >= n || (p[i + k] & 0xC0) != 0x80) return i;
-            kode = (kode << 6) | (p[i + k] & 0x3F);
-        }
-        if ((lanjut == 2 && (kode < 0x800 || (kode >= 0xD800 && kode <= 0xDFFF))) ||
-            (lanjut == 3 && (kode < 0x10000 || kode > 0x10FFFF)))
-            return i;
-        i += lanjut + 1;
-    }
-    return std::string_view::npos;
 }
 
 bool perluPetik(std::string_view s) { return s.find_first_of(",\"\r\n") != std::string_view::npos; }
@@ -190,7 +161,7 @@ std::string Tabel::bacaCsv(std::string_view isi) {
     tutup();
     if (isi.size() >= 3 && isi.substr(0, 3) == "\xEF\xBB\xBF") isi.remove_prefix(3);
     if (isi.size() >= std::numeric_limits<uint32_t>::max()) return "berkas kebesaran";
-    if (const size_t salah = salahUtf8(isi); salah != std::string_view::npos)
+    if (const size_t salah = SalahUtf8(isi); salah != std::string_view::npos)
         return "baris " + std::to_string(barisDi(isi, salah)) + ": bukan teks UTF-8 yang sah";
 
     PembacaCsv csv(isi);

@@ -43,6 +43,14 @@ Nilai SelisihBujur(const Tempat& tempat, int bujurDerajat, int bujurMenit, bool 
     return CUmumToAlamah(d, bertanggal);
 }
 
+Nilai IjtimaDiTempat(int jenis, const Nilai& diMarkaz, const Nilai& selisihBujur) {
+    // A correction that walks back across the start of the week wraps the fields round it, so
+    // the sum is a moment of the week whatever its flag says. The signed sum takes its flag from
+    // a magnitude that only compares alamah values, which a correction of some minutes can
+    // outweigh; read as a negative time, "24 hours less the ijtima'" would become 24 hours plus.
+    return TambahNilai(jenis, TandaPlus, ModusBuruj, diMarkaz, selisihBujur);
+}
+
 void TinggiHilal(std::span<Nilai, 7> hilal, std::span<Nilai, 2> nur, const Nilai& cahayaLintang) {
     hilal[3] = busur(0, 30);
     isi(hilal[4], KaliNilai(JenisBusur, TandaIkut, ModusBuruj, hilal[2], hilal[3]));

@@ -24,6 +24,10 @@ void HitungSaah(std::span<Nilai, 5> saah, const Nilai& koreksiQomar, const Nilai
 // The place's longitude less the markaz's, in hours of time, as an alamah value.
 Nilai SelisihBujur(const Tempat& tempat, int bujurDerajat, int bujurMenit, bool bertanggal);
 
+// The ijtima' at the place: the ijtima' at the markaz (an alamah value of the given kind) with
+// the place's correction added. The result is a moment of the week, always plus.
+Nilai IjtimaDiTempat(int jenis, const Nilai& diMarkaz, const Nilai& selisihBujur);
+
 // Hilal 3 to 7 and Nur from the hours between the ijtima' and sunset in Hilal 3: the height at
 // 0° 30' an hour, the stay at 0° 4' a degree, and the light: the latitude's share plus the stay.
 void TinggiHilal(std::span<Nilai, 7> hilal, std::span<Nilai, 2> nur, const Nilai& cahayaLintang);

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "core/Arah.h"
 #include "core/Tabel.h"
 
 namespace falak {
@@ -26,7 +27,7 @@ std::string NamaBulanArab(int bulan) {
 std::string JudulLembarArab(std::string_view namaTempat, int tahun, int bulanBaru) {
     const int t = bulanBaru > 12 ? tahun + 1 : tahun;
     return "حساب اجتماع النيرين وارتفاع الهلال لأول شهر " + NamaBulanArab(bulanBaru) + " سنة " + std::to_string(t) +
-           " هـ لبلد " + std::string(namaTempat);
+           " هـ لبلد " + IsolasiNama(namaTempat, ArahBaris::KananKeKiri);
 }
 
 void TulisNamaManzil(ClsFlexGrid& grid, std::string_view nama, int baris, int kolom) {

@@ -17,10 +17,12 @@
 
 namespace falak {
 
-// What a run concludes, for the lines of a batch: the civil day and the clock time of the
-// ijtima', the hilal's height and the first of the month.
+// What a run concludes, for the lines of a batch: the day and the clock time of the ijtima',
+// the hilal's height and the first of the month.
 struct Ringkasan {
-    Nilai tanggalIjtima;       // date value of the day of the ijtima'
+    Nilai tanggalIjtima;       // date value of the day that the book names for the ijtima'
+    bool malam = false;        // the ijtima' falls on the eve of that day, after the sunset opening it
+    Nilai tanggalSipil;        // date value of the civil day of the ijtima' on the zone's clock
     std::string jamIjtima;     // "hh.mm WIS, hh.mm WIB" as the conclusion words it
     Nilai tinggiHilal;         // the height as the treatise reckons it
     Nilai awalBulan;           // date value of the first of the month

@@ -1,10 +1,10 @@
 #include "run/Workspace.h"
 
 #include <algorithm>
+#include <charconv>
 
 #include "core/Angka.h"
 #include "core/Daerah.h"
-#include "core/Koneksi.h"
 
 namespace falak {
 
@@ -43,15 +43,57 @@ Modul* Workspace::modul(const EntriModul& entri) {
     return i < modul_.size() ? modul_[i].get() : nullptr;
 }
 
+std::vector<MasalahTabel> Workspace::masalahTabel() const {
+    std::vector<MasalahTabel> hasil;
+    for (const MasalahTabel& m : koneksi.masalah()) {
+        bool dibaca = m.tabel == "Daerah";
+        for (const EntriModul* e : tersedia_)
+            dibaca = dibaca || std::find(e->tabel.begin(), e->tabel.end(), m.tabel) != e->tabel.end();
+        if (dibaca) hasil.push_back(m);
+    }
+    return hasil;
+}
+
+std::optional<Workspace::Pesan> Workspace::periksaTabel(const EntriModul& entri) {
+    for (const std::string_view nama : entri.tabel) {
+        auto it = tabelDiperiksa_.find(nama);
+        if (it == tabelDiperiksa_.end()) {
+            const Tabel* t = koneksi.tabel(nama);
+            std::string salah = t ? PeriksaIsi(*t) : "tabel ini tidak dikenal";
+            for (const MasalahTabel& m : koneksi.masalah())
+                if (m.tabel == nama) salah = m.alasan;
+            it = tabelDiperiksa_.emplace(std::string(nama), std::move(salah)).first;
+        }
+        if (!it->second.empty())
+            return Pesan{"Tabel rusak", "Kitab " + std::string(entri.nama) + " tidak bisa dihitung: tabel " +
+                                            std::string(nama) + " (" +
+                                            (koneksi.lokasi().data / (std::string(nama) + ".csv")).string() +
+                                            "): " + it->second + "."};
+    }
+    return std::nullopt;
+}
+
 bool Workspace::pilihTempat(const std::string& nama) {
     const auto tempat = CariTempat(koneksi.Daerah, nama);
     sesi.tempat = tempat.value_or(Tempat::cadangan());
     return tempat.has_value();
 }
 
-std::optional<Workspace::Pesan> Workspace::periksaTahun(const std::string& tahunTeks) const {
-    if (tahunTeks.find_first_not_of(' ') == std::string::npos || tahunTeks.find('-') != std::string::npos)
+std::optional<Workspace::Pesan> Workspace::periksaTahun(const std::string& tahunTeks) {
+    const size_t awal = tahunTeks.find_first_not_of(' ');
+    if (awal == std::string::npos)
         return Pesan{"Ojok kesusu..", "Tahun belum diisi.\nSilahkan tentukan tahun sebelum Anda mengakses data."};
+    const size_t akhir = tahunTeks.find_last_not_of(' ') + 1;
+    int64_t tahun = 0;
+    const auto [ujung, ec] = std::from_chars(tahunTeks.data() + awal, tahunTeks.data() + akhir, tahun);
+    if (ec == std::errc::invalid_argument || ujung != tahunTeks.data() + akhir)
+        return Pesan{"Ojok kesusu..", "Tahun \"" + tahunTeks.substr(awal, akhir - awal) +
+                                          "\" bukan bilangan bulat; tulislah misalnya 1445."};
+    if (ec == std::errc::result_out_of_range || tahun < kTahunAwal || tahun > kTahunAkhir)
+        return Pesan{"Ojok kesusu..", "Tahun " + tahunTeks.substr(awal, akhir - awal) +
+                                          " H di luar jangkauan kitab-kitab ini; pilihlah tahun " +
+                                          std::to_string(kTahunAwal) + " sampai " + std::to_string(kTahunAkhir) +
+                                          " H."};
     return std::nullopt;
 }
 
@@ -61,6 +103,7 @@ Workspace::HasilProses Workspace::mnuProsesIjSub(const std::string& kodeKitab, c
     const EntriModul* entri = CariModul(kodeKitab);
     Modul* m = entri ? modul(*entri) : nullptr;
     if (!m) return {nullptr, belumTersedia(entri, kodeKitab)};
+    if (auto pesan = periksaTabel(*entri)) return {nullptr, pesan};
     pilihTempat(namaTempat);
     return {&Proses(*entri, *m, BulatGenap32(ValAngka(tahunTeks)).value_or(0), bulan), std::nullopt};
 }
@@ -73,6 +116,11 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriMo
         hasil.pesan = pesan;
         return hasil;
     }
+    for (const auto& [entri, bulan] : runs)
+        if (auto pesan = periksaTabel(*entri)) {
+            hasil.pesan = pesan;
+            return hasil;
+        }
     pilihTempat(namaTempat);
     const int32_t tahun = BulatGenap32(ValAngka(tahunTeks)).value_or(0);
     kemajuan.berhenti = false;
@@ -85,7 +133,9 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriMo
         }
         Modul& m = *modul(*entri);
         if (keluaran == Keluaran::Lembar) {
-            hasil.lembar.push_back(&Proses(*entri, m, tahun, bulan));
+            LembarKerja& tab = Proses(*entri, m, tahun, bulan);
+            hasil.lembar.push_back(&tab);
+            hasil.ringkas.push_back({entri, tahun, bulan, tab.kesimpulan, tab.ringkasan});
         } else {
             siapkan(*entri, tahun, bulan);
             HasilHitung h = m.Hitung({tahun, static_cast<int16_t>(bulan), false});

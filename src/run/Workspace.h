@@ -4,12 +4,14 @@
 #pragma once
 
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "conclusions/Kesimpulan.h"
+#include "core/Koneksi.h"
 #include "core/Sesi.h"
 #include "core/Sheet.h"
 #include "methods/Konteks.h"
@@ -18,8 +20,6 @@
 #include "run/Registri.h"
 
 namespace falak {
-
-class ClsConnection;
 
 // One work sheet: a tab of the main form with its grid and the conclusion of its run.
 struct LembarKerja {
@@ -59,9 +59,9 @@ public:
     // for the twelve months of a year (mnu12BulanSub), and the twelve months by every
     // available treatise. With Keluaran::Lembar each run makes its sheet; with
     // Keluaran::Ringkas no sheet is made or painted and each run leaves its conclusion and
-    // its gist only. The progress bar (Kemajuan's callback) moves once a run; the stop flag
-    // (Kemajuan::berhenti, which another thread may raise) ends the batch between two runs,
-    // keeping what was already made.
+    // its gist only; either way every run leaves them in `ringkas`. The progress bar
+    // (Kemajuan's callback) moves once a run; the stop flag (Kemajuan::berhenti, which another
+    // thread may raise) ends the batch between two runs, keeping what was already made.
     enum class Keluaran { Lembar, Ringkas };
     struct HasilRun {
         const EntriModul* modul = nullptr;
@@ -96,6 +96,19 @@ public:
         return e ? modul(*e) : nullptr;
     }
 
+    // The Hijri years the books serve: within them every book's year arithmetic and the civil
+    // calendar of its conclusion hold.
+    static constexpr int32_t kTahunAwal = 1;
+    static constexpr int32_t kTahunAkhir = 3000;
+    // The year text as every run reads it: a message when it is not filled in, not a whole
+    // number, or outside the years the books serve.
+    static std::optional<Pesan> periksaTahun(const std::string& tahunTeks);
+
+    // The tables that could not be read and that an available module reads (or the places
+    // register), for the warning when a session starts: a table no module reads is no one's
+    // concern.
+    std::vector<MasalahTabel> masalahTabel() const;
+
     // Looks the place up in the register and fills the place record; the fixed record when
     // it is not there. False when it fell back.
     bool pilihTempat(const std::string& nama);
@@ -109,19 +122,21 @@ public:
     DaftarRumus rumus;  // the formula sheets of the precise books' runs, by tab
 
 private:
-    // The year text as the year check reads it; a message when it is not filled in.
-    std::optional<Pesan> periksaTahun(const std::string& tahunTeks) const;
     // Proses: one run of the module with its sheets, which become new work sheets; the first
     // of them is returned.
     LembarKerja& Proses(const EntriModul& entri, Modul& m, int32_t tahun, int bulan);
     // The run state that Proses sets before a run: the chosen date, the month row, the sheet.
     void siapkan(const EntriModul& entri, int32_t tahun, int bulan);
+    // Why the module cannot run: a table it reads is missing, empty or holds a bad cell. Each
+    // table is checked once in a session.
+    std::optional<Pesan> periksaTabel(const EntriModul& entri);
     HasilBatch batch(const std::vector<std::pair<const EntriModul*, int>>& runs, const std::string& tahunTeks,
                      const std::string& namaTempat, Keluaran keluaran);
 
     std::vector<std::unique_ptr<Modul>> modul_;  // by the index of the registry entry
     std::vector<const EntriModul*> tersedia_;
     int nomorLembar_ = 0;
+    std::map<std::string, std::string, std::less<>> tabelDiperiksa_;  // table name -> what is wrong, or empty
 };
 
 }  // namespace falak

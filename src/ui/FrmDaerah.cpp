@@ -10,6 +10,8 @@
 #include <QTableWidget>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 #include "core/Daerah.h"
 #include "core/Koneksi.h"
 #include "ui/KotakPesan.h"
@@ -156,10 +158,18 @@ void FrmDaerah::isiDaftar(const QString& pilih) {
                                q(i.bujurDerajat + "° " + i.bujurMenit + "' " + i.arahBujur),
                                q(i.zona),
                                q(i.tinggi)};
-        for (int k = 0; k < 6; ++k) daftar_->setItem(static_cast<int>(b), k, new QTableWidgetItem(sel[k]));
+        for (int k = 0; k < 6; ++k) {
+            auto* item = new QTableWidgetItem(sel[k]);
+            if (k < 2) item->setToolTip(sel[k]);
+            daftar_->setItem(static_cast<int>(b), k, item);
+        }
         if (!pilih.isEmpty() && QString::compare(sel[0], pilih, Qt::CaseInsensitive) == 0) barisPilih = static_cast<int>(b);
     }
     daftar_->resizeColumnsToContents();
+    // A long name is shortened with an ellipsis (its tip shows it whole) rather than push the
+    // other columns out of the dialog.
+    const int batas = daftar_->fontMetrics().horizontalAdvance(QLatin1Char('M')) * 16;
+    for (int k = 0; k < 2; ++k) daftar_->setColumnWidth(k, std::min(daftar_->columnWidth(k), batas));
     saring(cari_->text());
     if (barisPilih >= 0) {
         daftar_->selectRow(barisPilih);

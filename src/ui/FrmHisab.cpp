@@ -6,6 +6,7 @@
 #include <QDate>
 #include <QFormLayout>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
@@ -19,6 +20,7 @@
 #include <QSplitter>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <QStyle>
 #include <QTabWidget>
 #include <QTreeWidget>
 #include <QVBoxLayout>
@@ -73,7 +75,7 @@ FrmHisab::FrmHisab(const LokasiData& lokasi, QWidget* induk)
       pekerja_(std::make_unique<Pekerja>(ws_->kemajuan)) {
     setObjectName("FrmHisab");
     setWindowTitle(QStringLiteral("falak - Hisab Awal Bulan"));
-    laporanTabel_ = q(LaporanMasalah(koneksi_->masalah())).trimmed();
+    laporanTabel_ = q(LaporanMasalah(ws_->masalahTabel())).trimmed();
     buatTampilan();
     buatMenu();
     isiPohon();
@@ -120,6 +122,9 @@ void FrmHisab::buatTampilan() {
     daerah_ = new QComboBox;
     daerah_->setObjectName("cboDaerah");
     daerah_->setMaxVisibleItems(20);
+    // A long place name is shortened in the box, not let widen the panel; the list shows it.
+    daerah_->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    daerah_->setMinimumContentsLength(16);
     tahunH_ = new QLineEdit;
     tahunH_->setObjectName("RichTahunH");
     tahunH_->setValidator(new QRegularExpressionValidator(QRegularExpression("[0-9]{0,5}"), tahunH_));
@@ -242,6 +247,13 @@ void FrmHisab::isiPohon() {
         induk->addChild(item);
     }
     pohon_->expandAll();
+    // Every book's name whole: the panel is at least as wide as the tree's longest line.
+    pohon_->header()->setStretchLastSection(false);
+    pohon_->resizeColumnToContents(0);
+    const int isi = pohon_->columnWidth(0);
+    pohon_->header()->setStretchLastSection(true);
+    pohon_->setMinimumWidth(isi + 2 * pohon_->frameWidth() +
+                            pohon_->style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, pohon_));
 }
 
 void FrmHisab::isiDaerah(const QString& pilih) {
@@ -309,10 +321,10 @@ void FrmHisab::proses(Run run) {
     });
 }
 
-void FrmHisab::prosesBatch(Batch batch) {
-    mulaiKerja([this, batch = std::move(batch), p = pilihan()]() -> std::function<void()> {
+void FrmHisab::prosesBatch(Batch batch, Tab tab) {
+    mulaiKerja([this, batch = std::move(batch), p = pilihan(), tab]() -> std::function<void()> {
         const Workspace::HasilBatch hasil = batch(*ws_, p);
-        return [this, hasil] { selesaiBatch(hasil); };
+        return [this, hasil, tab] { selesaiBatch(hasil, tab); };
     });
 }
 
@@ -320,14 +332,14 @@ void FrmHisab::prosesKitab(const std::string& kode) {
     proses([kode](Workspace& ws, const Pilihan& p) { return ws.mnuProsesIjSub(kode, p.tahun, p.bulan, p.tempat); });
 }
 
-void FrmHisab::prosesSemuaMetode(int bulan) {
+void FrmHisab::prosesSemuaMetode(int bulan, Tab tab) {
     prosesBatch([bulan](Workspace& ws, const Pilihan& p) {
         return ws.mnuProsesAllSub(p.tahun, bulan ? bulan : p.bulan, p.tempat);
-    });
+    }, tab);
 }
 
-void FrmHisab::prosesSetahun() {
-    prosesBatch([](Workspace& ws, const Pilihan& p) { return ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat); });
+void FrmHisab::prosesSetahun(Tab tab) {
+    prosesBatch([](Workspace& ws, const Pilihan& p) { return ws.duaBelasBulanSemuaKitab(p.tahun, p.tempat); }, tab);
 }
 
 bool FrmHisab::sibuk() const { return pekerja_->sibuk(); }
@@ -379,15 +391,31 @@ void FrmHisab::selesaiProses(const Workspace::HasilProses& hasil) {
     konversiTahun();
 }
 
-void FrmHisab::selesaiBatch(const Workspace::HasilBatch& hasil) {
+void FrmHisab::selesaiBatch(const Workspace::HasilBatch& hasil, Tab tab) {
     aturSibuk(false);
     if (hasil.pesan) {
         tampilkanPesan(*hasil.pesan);
         return;
     }
-    for (const LembarKerja* l : hasil.lembar) tambahTab(*l);
-    if (!hasil.lembar.empty()) {
-        tab_->setCurrentIndex(tab_->count() - 1);
+    std::vector<bool> diganti(static_cast<size_t>(tab_->count()), false);
+    int terakhir = -1;
+    for (LembarKerja* l : hasil.lembar) {
+        int i = 0;
+        if (tab == Tab::Ganti)
+            for (; i < static_cast<int>(diganti.size()); ++i)
+                if (!diganti[static_cast<size_t>(i)] && qobject_cast<TabLembar*>(tab_->widget(i))->lembar().modul == l->modul)
+                    break;
+        if (tab == Tab::Ganti && i < static_cast<int>(diganti.size())) {
+            gantiTab(i, *l);
+            diganti[static_cast<size_t>(i)] = true;
+            terakhir = i;
+        } else {
+            tambahTab(*l);
+            terakhir = tab_->count() - 1;
+        }
+    }
+    if (terakhir >= 0) {
+        tab_->setCurrentIndex(terakhir);
         tahunH_->setText(q(ws_->sesi.tahunHijri));
         konversiTahun();
     }
@@ -415,11 +443,28 @@ void FrmHisab::tutupTab(int indeks) {
     const LembarKerja* lembar = &t->lembar();
     tab_->removeTab(indeks);
     delete t;
+    buangLembar(lembar);
+    if (tab_->count() == 0) tengah_->setCurrentIndex(0);
+    perbaruiMenuLembar();
+}
+
+void FrmHisab::gantiTab(int indeks, LembarKerja& baru) {
+    auto* lama = qobject_cast<TabLembar*>(tab_->widget(indeks));
+    const LembarKerja* lembarLama = &lama->lembar();
+    baru.kunci = lembarLama->kunci;
+    auto* t = new TabLembar(baru);
+    tab_->insertTab(indeks, t, q(baru.judul));
+    tab_->setTabToolTip(indeks, q(baru.modul->nama) + QStringLiteral(" (") + q(baru.kunci) + QLatin1Char(')'));
+    tab_->removeTab(indeks + 1);
+    delete lama;
+    buangLembar(lembarLama);
+    perbaruiMenuLembar();
+}
+
+void FrmHisab::buangLembar(const LembarKerja* lembar) {
     auto& semua = ws_->lembar;
     semua.erase(std::remove_if(semua.begin(), semua.end(), [lembar](const auto& l) { return l.get() == lembar; }),
                 semua.end());
-    if (tab_->count() == 0) tengah_->setCurrentIndex(0);
-    perbaruiMenuLembar();
 }
 
 void FrmHisab::perbaruiMenuLembar() {

@@ -57,16 +57,21 @@ public:
     using Run = std::function<Workspace::HasilProses(Workspace& ws, const Pilihan& pilihan)>;
     using Batch = std::function<Workspace::HasilBatch(Workspace& ws, const Pilihan& pilihan)>;
 
+    // Where a batch puts its sheets: each on a new tab, or in place of an open sheet of the
+    // same book (the first not yet replaced, in the order of the tabs), which keeps its tab
+    // and key; a sheet with no such tab gets a new one.
+    enum class Tab { Baru, Ganti };
+
     // A run of one treatise for the chosen place, year and month, as a click in the tree does.
     void prosesKitab(const std::string& kode);
     // Every treatise for one month; 0 is the chosen month.
-    void prosesSemuaMetode(int bulan);
+    void prosesSemuaMetode(int bulan, Tab tab = Tab::Baru);
     // Every treatise for the twelve months of the chosen year.
-    void prosesSetahun();
+    void prosesSetahun(Tab tab = Tab::Baru);
     // A run or a batch of the session for the user's choice, on the worker thread; its sheets
-    // come onto new tabs, its message into a box. Nothing while another job runs.
+    // come onto tabs, its message into a box. Nothing while another job runs.
     void proses(Run run);
-    void prosesBatch(Batch batch);
+    void prosesBatch(Batch batch, Tab tab = Tab::Baru);
     // Opens the places register.
     void bukaDaerah();
     // Chooses the place, the year and the month, as the user would; a null year or a month 0
@@ -107,10 +112,14 @@ private:
     // The items whose state follows the sheet in front.
     void perbaruiMenu();
     void selesaiProses(const Workspace::HasilProses& hasil);
-    void selesaiBatch(const Workspace::HasilBatch& hasil);
+    void selesaiBatch(const Workspace::HasilBatch& hasil, Tab tab);
     void tampilkanPesan(const Workspace::Pesan& pesan);
     void tambahTab(const LembarKerja& lembar);
     void tutupTab(int indeks);
+    // The sheet at a tab gives way to a new one, which takes its key; the old one leaves the
+    // session.
+    void gantiTab(int indeks, LembarKerja& baru);
+    void buangLembar(const LembarKerja* lembar);
     void perbaruiMenuLembar();
     // The Masehi year box after the Hijri year or month changed; the box shows the year in
     // which the chosen month begins, as every conversion writes it.

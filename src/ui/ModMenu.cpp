@@ -19,9 +19,11 @@ QString q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<q
 void keluar(FrmHisab& j, QAction&) { j.close(); }
 void bukaDaerah(FrmHisab& j, QAction&) { j.bukaDaerah(); }
 void prosesKitab(FrmHisab& j, const EntriModul& m) { j.prosesKitab(std::string(m.kode)); }
-void prosesSemuaMetode(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0); }
+void prosesSemuaMetode(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0, FrmHisab::Tab::Ganti); }
+void prosesSemuaMetodeTabBaru(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0); }
 void prosesBulan(FrmHisab& j, int bulan) { j.prosesSemuaMetode(bulan); }
-void prosesSetahun(FrmHisab& j, QAction&) { j.prosesSetahun(); }
+void prosesSetahun(FrmHisab& j, QAction&) { j.prosesSetahun(FrmHisab::Tab::Ganti); }
+void prosesSetahunTabBaru(FrmHisab& j, QAction&) { j.prosesSetahun(); }
 
 QString judulBulan(int bulan) { return QString::fromUtf8(kBarisBulan[static_cast<size_t>(bulan - 1)]); }
 QString tahunKedepan(int n) { return QString::number(n) + QStringLiteral(" tahun kedepan"); }
@@ -126,9 +128,11 @@ const std::vector<ItemMenu>& DaftarMenu() {
         PerModul("mnuProsesGM", "mnuProsesGM", Garapan::Kf, nullptr),
         Pemisah("PROSESMENU", "SEPARATOR4"),
         Perintah("PROSESMENU", "mnuProsesAll", "Proses semua metode", prosesSemuaMetode),
+        Perintah("PROSESMENU", "mnuProsesAll1", "Proses semua metode (Tab Baru)", prosesSemuaMetodeTabBaru),
         Menu("PROSESMENU", "mnuBulan", "Bulan"),
         PerNomor("mnuBulan", "mnuBulan", 1, 12, judulBulan, prosesBulan),
         Perintah("PROSESMENU", "mnu12Bulan", "Satu tahun", prosesSetahun),
+        Perintah("PROSESMENU", "mnu12Bulan1", "Satu tahun (Tab Baru)", prosesSetahunTabBaru),
         Pemisah("PROSESMENU", "SEPARATOR5"),
         Menu("PROSESMENU", "mnuthGerhanaB", "Gerhana Bulan Beberapa Tahun"),
         PerNomor("mnuthGerhanaB", "mnthGB", 1, 10, tahunKedepan, nullptr),

@@ -4,7 +4,9 @@
 #include <QFontMetrics>
 #include <QHeaderView>
 #include <QPainter>
+#include <QHelpEvent>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 #include <vector>
@@ -14,6 +16,10 @@
 namespace falak::ui {
 
 namespace {
+
+// The widest a cell's text may make its column, in digit widths: twice the longest label of
+// the frames, room for a place's name of some thirty letters.
+constexpr int kLebarTerpanjang = 30;
 
 // Amiri draws its letters small for their line height; a size up makes them read like the
 // Latin digits beside them.
@@ -26,9 +32,19 @@ QFont fontLembar(const Sheet& lembar) {
 
 }  // namespace
 
-ModelLembar::ModelLembar(const Sheet& lembar, QObject* induk) : QAbstractTableModel(induk), lembar_(lembar) {}
+ModelLembar::ModelLembar(const Sheet& lembar, QObject* induk)
+    : QAbstractTableModel(induk), lembar_(lembar), baris_(lembar.jumlahBaris()) {
+    // A frame is drawn for the longest book; the rows that this run left without text or line
+    // at the foot of the sheet are not shown.
+    auto kosong = [&](int b) {
+        for (int k = 0; k < lembar_.jumlahKolom(); ++k)
+            if (lembar_.selLengkap(b, k).garis) return false;
+        return lembar_.barisKosong(b);
+    };
+    while (baris_ > 0 && kosong(baris_ - 1)) --baris_;
+}
 
-int ModelLembar::rowCount(const QModelIndex& induk) const { return induk.isValid() ? 0 : lembar_.jumlahBaris(); }
+int ModelLembar::rowCount(const QModelIndex& induk) const { return induk.isValid() ? 0 : baris_; }
 
 int ModelLembar::columnCount(const QModelIndex& induk) const { return induk.isValid() ? 0 : lembar_.jumlahKolom(); }
 
@@ -92,7 +108,8 @@ GridLembar::GridLembar(const Sheet& lembar, QWidget* induk) : QTableView(induk),
     setWordWrap(false);
     setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
     setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-    for (const Gabungan& g : lembar.gabungan()) setSpan(g.baris, g.kolom1, g.tinggi, g.kolom2 - g.kolom1 + 1);
+    for (const Gabungan& g : lembar.gabungan())
+        if (g.baris < model_->rowCount()) setSpan(g.baris, g.kolom1, g.tinggi, g.kolom2 - g.kolom1 + 1);
     aturUkuran();
 }
 
@@ -107,7 +124,12 @@ void GridLembar::aturUkuran() {
     for (const Gabungan& g : l.gabungan())
         for (int b = g.baris; b < g.baris + g.tinggi; ++b)
             for (int k = g.kolom1; k <= g.kolom2; ++k) digabung[ke(b, k)] = true;
-    auto perlu = [&](const std::string& teks) { return fm.horizontalAdvance(QString::fromStdString(teks)) + 2 * celah; };
+    // A text may ask for no more than a long label does: a place's name of any length then
+    // keeps its column on the screen, shortened with an ellipsis and whole in its tip.
+    const int batas = celah * kLebarTerpanjang;
+    auto perlu = [&](const std::string& teks) {
+        return std::min(fm.horizontalAdvance(QString::fromStdString(teks)) + 2 * celah, batas);
+    };
 
     for (int b = 0; b < l.jumlahBaris(); ++b)
         for (int k = 0; k < l.jumlahKolom(); ++k)
@@ -124,7 +146,8 @@ void GridLembar::aturUkuran() {
         int ada = 0;
         for (int k = g.kolom1; k <= g.kolom2; ++k) ada += lebar[static_cast<size_t>(k)];
         const int n = g.kolom2 - g.kolom1 + 1;
-        const int kurang = perlu(teks) - ada;
+        // What already spans wider than the limit shortens the text rather than widen more.
+        const int kurang = std::min(fm.horizontalAdvance(QString::fromStdString(teks)) + 2 * celah, std::max(ada, batas)) - ada;
         if (kurang > 0)
             for (int k = g.kolom1; k <= g.kolom2; ++k) lebar[static_cast<size_t>(k)] += (kurang + n - 1) / n;
     }
@@ -133,6 +156,23 @@ void GridLembar::aturUkuran() {
     const int tinggi = l.arab ? fm.ascent() * 9 / 10 + fm.descent() * 2 / 3 : fm.height();
     verticalHeader()->setMinimumSectionSize(1);
     verticalHeader()->setDefaultSectionSize(tinggi + 4);
+}
+
+bool GridLembar::viewportEvent(QEvent* e) {
+    if (e->type() == QEvent::ToolTip) {
+        // A shortened text shows itself whole, unless the cell has a tip of its own.
+        const auto* h = static_cast<QHelpEvent*>(e);
+        const QModelIndex i = indexAt(h->pos());
+        const QString teks = i.data().toString();
+        if (i.isValid() && !i.data(Qt::ToolTipRole).isValid() && !teks.isEmpty()) {
+            const QRect r = visualRect(i);
+            if (fontMetrics().horizontalAdvance(teks) > r.width() - 2 * fontMetrics().horizontalAdvance(QLatin1Char('0'))) {
+                QToolTip::showText(h->globalPos(), teks, viewport(), r);
+                return true;
+            }
+        }
+    }
+    return QTableView::viewportEvent(e);
 }
 
 void GridLembar::showEvent(QShowEvent* e) {

@@ -33,6 +33,7 @@ public:
 
 private:
     const Sheet& lembar_;
+    int baris_;  // the rows shown
 };
 
 // Lays each cell's text out in its own direction: an Arabic text from right to left, so that
@@ -57,10 +58,12 @@ public:
 
 protected:
     void showEvent(QShowEvent* e) override;
+    bool viewportEvent(QEvent* e) override;
 
 private:
     // Column widths from the texts they hold (a merged text shares its width among its
-    // columns), and row heights from the font, which for Arabic is taller than for Latin.
+    // columns, a long text is shortened), and row heights from the font, which for Arabic is
+    // taller than for Latin.
     void aturUkuran();
 
     ModelLembar* model_;

@@ -35,7 +35,7 @@ FaidlulKarim::FaidlulKarim(Konteks k) : IttifaqDzatilBain(k, kFaidlulKarim) {}
 void FaidlulKarim::HitungBudTaqwim() {
     BudTaqwim(1) = Jumlah(static_cast<size_t>(data().unsur.wasath));
     BudTaqwim(2) = Qomar(7);
-    // Not the first cell: the third, as the previous run left it.
+    // Not the first cell: the third, empty as the run began.
     BudTaqwim(3) = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, BudTaqwim(3), BudTaqwim(2));
 }
 

@@ -5,6 +5,7 @@
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Sesi.h"
+#include "methods/LangkahTaqribi.h"
 #include "methods/Taadil.h"
 
 namespace falak {
@@ -67,7 +68,7 @@ void IttifaqDzatilBain::IjtimaFR() {
     Ijtima(2) = AlamahTarkh(-1, m, AmbilTanda(saah));
     Ijtima(3) = t[1];
     Ijtima(4) = selisihBujur(bujurBertanggal());
-    Ijtima(5) = TambahNilai(JenisAlamahMasehi, TandaIkut, ModusBuruj, Ijtima(3), Ijtima(4));
+    Ijtima(5) = IjtimaDiTempat(JenisAlamahMasehi, Ijtima(3), Ijtima(4));
 }
 
 void IttifaqDzatilBain::HilalFR() {

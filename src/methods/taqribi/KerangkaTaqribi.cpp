@@ -151,7 +151,7 @@ void KerangkaTaqribi::IjtimaFR() {
     Ijtima(2) = CUmumToAlamah(Saah(5), false);
     Ijtima(3) = KurangNilai(JenisAlamah, TandaIkut, ModusBuruj, Jumlah(1), Ijtima(2));
     Ijtima(4) = selisihBujur(false);
-    Ijtima(5) = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, Ijtima(3), Ijtima(4));
+    Ijtima(5) = IjtimaDiTempat(JenisAlamah, Ijtima(3), Ijtima(4));
 }
 
 void KerangkaTaqribi::HilalFR() { HilalMaghribTetap(Hilal.semua(), Nur.semua(), Ijtima(5), cahayaLintang()); }
@@ -187,6 +187,7 @@ void KerangkaTaqribi::hitungTahap(int32_t tahun, int16_t bulan) {
             bulan = static_cast<int16_t>(bulan + 1);
         }
     }
+    kosongkanBaris();
     PokokFR(tahun, bulan);
     maju.langkah();
     TaadilFR();
@@ -197,6 +198,15 @@ void KerangkaTaqribi::hitungTahap(int32_t tahun, int16_t bulan) {
     maju.langkah();
     HilalFR();
     maju.langkah();
+}
+
+void KerangkaTaqribi::kosongkanBaris() {
+    for (Baris<5>* b : {&Majmu, &Mabsut, &Syahr, &Jumlah, &TdlKs, &TdlMr, &TdlAr, &TdlHs, &BudTaqwim, &TdlDq, &Saah, &Ijtima})
+        *b = {};
+    Qomar = {};
+    Manzil = {};
+    Hilal = {};
+    Nur = {};
 }
 
 void KerangkaTaqribi::KesimpulanFR(HasilHitung& h) {
@@ -211,6 +221,7 @@ void KerangkaTaqribi::KesimpulanFR(HasilHitung& h) {
     b.mukts = Hilal(7);
     b.nur = Nur(2);
     b.gurubHariIjtima = data_.gurubHariIjtima;
+    b.malam = malamIjtima();
     b.markaz = data_.markazKesimpulan;
     TulisKesimpulanTaqribi(k_, b, h.kesimpulan, h.ringkasan);
 }

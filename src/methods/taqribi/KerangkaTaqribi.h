@@ -105,7 +105,7 @@ public:
 
     const DataKitabFR& data() const { return data_; }
 
-    // Rows of the run, kept between runs; a treatise with fewer cells leaves the last empty.
+    // Rows of the last run; a treatise with fewer cells leaves the last empty.
     Baris<5> Majmu, Mabsut, Syahr, Jumlah;
     Baris<5> TdlKs, TdlMr, TdlAr, TdlHs;
     Baris<10> Qomar;
@@ -140,6 +140,8 @@ protected:
     virtual Nilai alamahSyahr(const Tabel& syahru) const;
     // The ijtima' as the conclusion reads it: weekday and hours from sunset.
     virtual Nilai ijtimaSejakMaghrib() const { return Ijtima(5); }
+    // Whether the ijtima' falls on the eve of the day named; none: as its clock tells.
+    virtual std::optional<bool> malamIjtima() const { return std::nullopt; }
     // The civil date of the ijtima' (a date value): the day of the Hijri month that falls on
     // the reckoned weekday.
     virtual Nilai hariIjtima();
@@ -155,7 +157,8 @@ protected:
 
     // The place's longitude less the markaz's, in hours, as an alamah value.
     Nilai selisihBujur(bool bertanggal) const;
-    // The five reckoning stages.
+    // The five reckoning stages, on rows emptied first: a month reckons alike alone and in a
+    // batch, whatever the run before it left.
     void hitungTahap(int32_t tahun, int16_t bulan);
     // Day of the ijtima' and first of the month of the last run.
     struct HariHasil {
@@ -172,6 +175,7 @@ protected:
     Konteks k_;
 
 private:
+    void kosongkanBaris();
     void tulisSel(ClsFlexGrid& g);
     const DataKitabFR& data_;
 };

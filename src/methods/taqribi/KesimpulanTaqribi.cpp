@@ -32,12 +32,18 @@ void TulisKesimpulanTaqribi(Konteks& k, const BahanKesimpulan& b, std::vector<st
     ClsKesimpulan& ks = k.kesimpulan;
     const Sesi& s = k.sesi;
     const std::string jamIjtima = std::to_string(AmbilTingkat(b.ijtima, MedanJam) + 18);
+    const int jamJam = (AmbilTingkat(b.ijtima, MedanJam) + 18) % 24;
+    // The night belongs to the day that follows it: the hour of midnight too is still named "Malam".
+    const bool malam = b.malam.value_or(jamJam >= 18 || jamJam == 0);
+    // An evening on the eve of a day is the evening of the civil day before it.
+    const Nilai hariSipil = malam && jamJam >= 12 ? ClsKesimpulan::GeserHari(b.hariIjtima, -1) : b.hariIjtima;
 
     baris.assign(13, std::string());
     baris[0] = b.judul;
     baris[1] = s.labelKe(0) + ks.FullM(b.awalBulan, "17", true);
-    baris[2] = s.labelKe(1) + ks.FullM(b.hariIjtima, jamIjtima, false);
-    const std::string jam = ks.JamIjtima(jamIjtima, std::to_string(AmbilTingkat(b.ijtima, MedanMenit)), b.hariIjtima);
+    baris[2] = s.labelKe(1) + ks.FullM(b.hariIjtima, malam ? "18" : "17", false);
+    const std::string menit = std::to_string(AmbilTingkat(b.ijtima, MedanMenit));
+    const std::string jam = ks.JamIjtima(jamIjtima, menit, hariSipil);
     baris[3] = s.labelKe(2) + jam;
     baris[4] = s.labelKe(3) + ks.SaatuMaghribS(b.matahari);
     baris[5] = s.labelKe(6) + ks.ArahHilal(b.matahari);
@@ -55,7 +61,12 @@ void TulisKesimpulanTaqribi(Konteks& k, const BahanKesimpulan& b, std::vector<st
     baris[12] = s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
                                                       static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
                                                       t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur)));
-    ringkasan = {b.hariIjtima, jam, b.tinggi, b.awalBulan};
+    // The zone's clock may pass midnight either way from the local apparent one.
+    const Waktu zona = ks.keZona(AmbilTingkat(hariSipil, MedanBulan), AmbilTingkat(hariSipil, MedanTanggal),
+                                 Waktu::dari(jamJam, ValAngka(menit), 0));
+    const int64_t geser = zona.detik() < 0 ? -1 : zona.detik() / 86400;
+    const Nilai tanggalZona = hariSipil.kosongTeks() ? hariSipil : ClsKesimpulan::GeserHari(hariSipil, static_cast<int>(geser));
+    ringkasan = {b.hariIjtima, malam, tanggalZona, jam, b.tinggi, b.awalBulan};
 }
 
 }  // namespace falak

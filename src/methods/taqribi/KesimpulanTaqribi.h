@@ -31,6 +31,9 @@ struct BahanKesimpulan {
     Nilai mukts;           // the hilal's stay
     Nilai nur;             // the hilal's light
     bool gurubHariIjtima = false;  // sunset of the day of the ijtima', else of the first of the month
+    // The ijtima' falls on the eve of the day named, after the sunset that opens it; unset: when
+    // its clock reads 18 hours or later, the sunset of the books that fix it there.
+    std::optional<bool> malam;
     TitikMarkaz markaz{};
 };
 

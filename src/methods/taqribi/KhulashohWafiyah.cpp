@@ -3,6 +3,7 @@
 #include "conclusions/Kesimpulan.h"
 #include "core/FungsHisab.h"
 #include "methods/LangkahTaqribi.h"
+#include "methods/taqribi/KesimpulanTaqribi.h"
 
 namespace falak {
 
@@ -31,23 +32,39 @@ const DataKitabFR kKhulashohWafiyah = {
 KhulashohWafiyah::KhulashohWafiyah(Konteks k) : KerangkaTaqribi(k, kKhulashohWafiyah) {}
 
 void KhulashohWafiyah::HilalFR() {
-    // The sunset of the day of the ijtima' at the place, in hours and minutes.
+    // The sunset of the civil day from whose noon the ijtima's hours run, in hours from noon.
     std::string gurub, terbit;
-    const Waktu w = k_.kesimpulan.WaktuGurub(Nilai(BurujMatahari(hariIjtima()).value_or("")), gurub, terbit);
+    const Nilai hariSiang = HariIjtimaTaqribi(k_, Ijtima(5));
+    const Waktu w = k_.kesimpulan.WaktuGurub(Nilai(BurujMatahari(hariSiang).value_or("")), gurub, terbit);
     const Nilai terbenam = AlamahTarkh(JenisAlamah, MedanAlamah{0, 0, 0, 0, 0, w.jam(), w.menit(), 0, 0}, 1);
     Hilal(1) = CAlamahToUmum(terbenam);
     Hilal(2) = CAlamahToUmum(Ijtima(5));
     // An ijtima' after that sunset is measured to the next one, 24 hours on.
-    const bool sesudahGurub = NilaiDesimal(JenisBusur, Hilal(2)) > NilaiDesimal(JenisBusur, Hilal(1));
-    const Nilai gurubDipakai = sesudahGurub ? TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Hilal(1),
-                                                          DlorbuSittin(0, 24, 0, 0, 0, 1, ModusBuruj))
-                                            : Hilal(1);
+    sesudahGurub_ = NilaiDesimal(JenisBusur, Hilal(2)) > NilaiDesimal(JenisBusur, Hilal(1));
+    const Nilai gurubDipakai =
+        sesudahGurub_ ? TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Hilal(1), DlorbuSittin(0, 24, 0, 0, 0, 1, ModusBuruj))
+                      : Hilal(1);
     Hilal(3) = KurangNilai(JenisBusur, TandaPlus, ModusBuruj, gurubDipakai, Hilal(2));
     TinggiHilal(Hilal.semua(), Nur.semua(), cahayaLintang());
 }
 
 Nilai KhulashohWafiyah::ijtimaSejakMaghrib() const {
-    return TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, Ijtima(5), Nilai("000 00 00 00 00 18 00 00 00 1"));
+    // Noon of a day is 18 hours after the sunset at 18.00 that opens it; the day itself changes
+    // at the sunset of the place, the one the height is measured to.
+    const Nilai satuHari("000 00 00 01 01 00 00 00 00 1");
+    const Nilai v = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, Ijtima(5), Nilai("000 00 00 00 00 18 00 00 00 1"));
+    const int jamSiang = AmbilTingkat(Ijtima(5), MedanJam);
+    const bool hariBerikut = jamSiang >= 12 || sesudahGurub_;
+    const bool hariBerikutJam18 = jamSiang >= 6;
+    if (hariBerikut == hariBerikutJam18) return v;
+    return hariBerikut ? TambahNilai(JenisAlamah, TandaPlus, ModusBuruj, v, satuHari)
+                       : KurangNilai(JenisAlamah, TandaPlus, ModusBuruj, v, satuHari);
+}
+
+std::optional<bool> KhulashohWafiyah::malamIjtima() const {
+    // Between its sunset and midnight the ijtima' falls on the eve of the next day.
+    if (AmbilTingkat(Ijtima(5), MedanJam) >= 12) return std::nullopt;
+    return sesudahGurub_;
 }
 
 }  // namespace falak

@@ -1,0 +1,164 @@
+"""The workbooks that falak writes, read back by a spreadsheet reader of their own (openpyxl).
+
+FALAK is the falak executable, FALAK_CONTOH_XLSX the program that writes the made-up sheet of
+contoh_xlsx.cpp."""
+import json
+import os
+import shutil
+import subprocess
+import tempfile
+import unittest
+import zipfile
+
+import openpyxl
+
+FALAK = os.environ["FALAK"]
+CONTOH = os.environ["FALAK_CONTOH_XLSX"]
+
+TEMPAT = ["--lintang", "7 39 LS", "--bujur", "112 56 BT", "--zona", "7"]
+
+
+class Buku(unittest.TestCase):
+    @classmethod
+    def setUpClass(cls):
+        cls.dir = tempfile.mkdtemp(prefix="falak-xlsx-")
+        cls.env = dict(os.environ, FALAK_DATA_HOME=os.path.join(cls.dir, "pengguna"))
+
+    @classmethod
+    def tearDownClass(cls):
+        shutil.rmtree(cls.dir)
+
+    def falak(self, *argumen, kode=0):
+        p = subprocess.run([FALAK, *argumen], env=self.env, capture_output=True, text=True)
+        self.assertEqual(p.returncode, kode, p.stderr)
+        return p.stdout
+
+    def tulis(self, nama, *argumen):
+        berkas = os.path.join(self.dir, nama)
+        self.falak(*argumen, "--xlsx", berkas)
+        return berkas
+
+    def test_sheet_cells_mirrored_into_a_right_to_left_worksheet(self):
+        perintah = ["hisab", "--kitab", "SN", "--tahun", "1445", "--bulan", "8", "--markaz", "Pasuruan"]
+        berkas = self.tulis("sn.xlsx", *perintah)
+        lembar = json.loads(self.falak(*perintah, "--json"))["lembar"]
+        wb = openpyxl.load_workbook(berkas)
+        self.assertEqual(wb.sheetnames, ["Hisab Awal Bulan 1445 H. 8", "Kesimpulan"])
+        ws = wb.worksheets[0]
+        self.assertTrue(ws.sheet_view.rightToLeft)
+        kolom = lembar["kolom"]
+
+        def sel(b, k):
+            """The worksheet's cell of grid row b, column k: the columns are mirrored."""
+            return ws.cell(row=b + 1, column=kolom - k)
+
+        def isi(b, k):
+            """The value shown in the cell: a merge shows that of its first cell."""
+            c = sel(b, k)
+            for r in ws.merged_cells.ranges:
+                if c.coordinate in r:
+                    return ws.cell(row=r.min_row, column=r.min_col).value
+            return c.value
+
+        dikosongkan = {(29, 8), (29, 9)}  # the copies of the mansion's name
+        for b, k, teks in lembar["sel"]:
+            if (b, k) in dikosongkan:
+                continue
+            nilai = isi(b, k)
+            if isinstance(nilai, (int, float)):
+                self.assertEqual(nilai, float(teks), (b, k))
+            else:
+                self.assertEqual(nilai, teks, (b, k))
+        # The grid's numbers are numbers, its labels texts read from the right.
+        self.assertEqual(sel(3, 37).data_type, "n")
+        self.assertEqual(sel(3, 38).value, "المجموعة")
+        self.assertEqual(sel(3, 38).alignment.readingOrder, 2)
+
+        gabung = {str(r) for r in ws.merged_cells.ranges}
+        self.assertIn("A1:AN1", gabung)                    # the heading, over all 40 columns
+        self.assertIn("A9:B9", gabung)                     # a row label into the empty last column
+        self.assertNotIn("A29:B29", gabung)                # ... not where the place stands beside it
+        self.assertIn("AE30:AG30", gabung)                 # the mansion's name
+        self.assertTrue(sel(29, 9).value.startswith(" بطن الحوت"))
+
+        # The box of the top block, grid rows 1-6 and columns 9-39: its right edge is column A.
+        self.assertEqual(sel(1, 39).border.top.style, "thin")
+        self.assertEqual(sel(1, 39).border.left.style, "thin")
+        self.assertIsNone(sel(1, 39).border.right.style)
+        self.assertEqual(sel(6, 9).border.bottom.style, "thin")
+        self.assertEqual(sel(6, 9).border.right.style, "thin")
+        self.assertIsNone(sel(4, 20).border.left.style)    # inside the box
+
+        self.assertEqual(ws.page_margins.left, 0.5)
+        self.assertEqual(ws.page_margins.top, 0.7)
+
+        k = wb["Kesimpulan"]
+        self.assertEqual(k["A1"].value, "Sullam al-Nairoin")
+        self.assertTrue(k["A1"].font.b)
+        self.assertEqual(k["A2"].value, "Awal bulan sesudah Sy'ban")
+        self.assertEqual(k["B2"].value, "Selasa Pon, 12 Mar 2024 M.")
+        self.assertEqual(k["A13"].value, "Tempat")
+
+    def test_every_treatise_of_a_month_with_clashing_captions(self):
+        wb = openpyxl.load_workbook(self.tulis("semua.xlsx", "semua", "--tahun", "1445", "--bulan", "8"))
+        judul = "Hisab Awal Bulan 1445 H. 8"
+        self.assertEqual(wb.sheetnames, [judul] + [f"{judul}-{i}" for i in range(1, 7)] + ["Kesimpulan"])
+        # Syamsu al-Hilal's sheet, the fourth, is 12 columns wide.
+        self.assertEqual(wb.worksheets[3].max_column, 12)
+        kepala = [r[0].value for r in wb["Kesimpulan"].iter_rows() if r[0].font.b]
+        self.assertEqual(kepala, ["Sullam al-Nairoin", "Fathu al-Ro'uf al-Mannan", "Ittifaq Dzatu al-Bain Taqribi",
+                                  "Syamsu al-Hilal", "Tadzkirotu al-Ikhwan", "Khulashotu al-Wafiyah Taqribi",
+                                  "Faidlu al-Karim"])
+
+    def test_a_year_of_one_treatise(self):
+        wb = openpyxl.load_workbook(self.tulis("setahun.xlsx", "setahun", "--kitab", "FR", "--tahun", "1446"))
+        self.assertEqual(wb.sheetnames, [f"Hisab Awal Bulan 1446 H. {b}" for b in range(1, 13)] + ["Kesimpulan"])
+        self.assertEqual(sum(1 for r in wb["Kesimpulan"].iter_rows() if r[0].font.b), 12)
+
+    def test_texts_that_look_like_formulas_stay_texts(self):
+        for nama, arab in [("=1+1", "@SUM(A1)"), ("+62 Desa", "-Desa")]:
+            self.falak("tempat", "tambah", nama, *TEMPAT, "--arab", arab)
+            berkas = self.tulis("rumus.xlsx", "hisab", "--tahun", "1445", "--bulan", "8", "--markaz", nama)
+            with zipfile.ZipFile(berkas) as z:
+                for n in z.namelist():
+                    if n.startswith("xl/worksheets/sheet"):
+                        self.assertNotIn(b"<f>", z.read(n), n)
+            wb = openpyxl.load_workbook(berkas)
+            ws = wb.worksheets[0]
+            # The place's name beside the ijtima' at the place, grid row 29, column 39: column A.
+            self.assertEqual(ws["A30"].value, nama)
+            self.assertEqual(ws["A30"].data_type, "s")
+            self.assertIn(arab.lstrip("-"), ws["A1"].value)
+            self.assertEqual(wb["Kesimpulan"]["B13"].value.split(" ")[0], nama.split(" ")[0])
+
+    def test_tips_and_a_left_to_right_sheet(self):
+        berkas = os.path.join(self.dir, "contoh.xlsx")
+        subprocess.run([CONTOH, berkas], check=True)
+        wb = openpyxl.load_workbook(berkas)
+        ws = wb["Contoh"]
+        self.assertFalse(ws.sheet_view.rightToLeft)
+        self.assertEqual([str(r) for r in ws.merged_cells.ranges], ["A1:D1"])
+        self.assertEqual([ws.cell(row=2, column=k).value for k in range(1, 5)], ["=1+1", "+62 812", "-Desa", "@Pondok"])
+        self.assertEqual(ws["A3"].value, 12.5)
+        tips = {str(v.sqref): v for v in ws.data_validations.dataValidation}
+        self.assertEqual(set(tips), {"A3", "B3"})
+        self.assertTrue(tips["A3"].showInputMessage)
+        self.assertEqual(tips["A3"].promptTitle, "Tinggi hilal")
+        self.assertEqual(tips["A3"].prompt, "h = asin(sin p sin d + cos p cos d cos t)\nh = 12.5")
+        # A workbook takes 32 characters of title and 255 of message.
+        self.assertEqual(tips["B3"].promptTitle, "J" * 32)
+        self.assertEqual(tips["B3"].prompt, "p" * 255)
+
+    def test_nothing_half_written(self):
+        folder = os.path.join(self.dir, "sudah-ada.xlsx")
+        os.mkdir(folder)
+        p = subprocess.run([FALAK, "hisab", "--tahun", "1445", "--bulan", "8", "--xlsx", folder], env=self.env,
+                           capture_output=True, text=True)
+        self.assertEqual(p.returncode, 1)
+        self.assertIn("sudah-ada.xlsx", p.stderr)
+        self.assertTrue(os.path.isdir(folder))
+        self.assertEqual([n for n in os.listdir(self.dir) if n.startswith(".")], [])  # no temporary file left
+
+
+if __name__ == "__main__":
+    unittest.main()

@@ -1,0 +1,151 @@
+#!/usr/bin/env python3
+"""Writes the tables by which a worked sheet is laid out when it leaves the program (spreadsheet,
+printed page): data/MergenExcel.csv (cells to show as one), data/ClearTxtMargen.csv (cells to
+empty first) and data/Lines.csv (the lines of the book's table).
+
+Each treatise X has one column in each table (MergnX, ClearTxtX, Lines_X; Khulashotu's clear
+column is ClearTxtKWI), one range a row, read from the first row to the last; an empty cell is
+skipped. Ranges are in the coordinates of the sheet itself (column A the leftmost column of the
+grid, row 1 its top row), as the frames of frames.py place their labels; a right-to-left sheet
+is mirrored only when it is written.
+
+A line is "RANGE|SIDES": SIDES is the sum of 1 top, 2 bottom, 4 left, 8 right, plus 16 when
+the lines go only along the outer edges of the block (a box), not around every cell of it.
+
+Run: python3 tools/frames/excel.py            (--verify: fail unless data/ holds what it would write)
+"""
+import csv
+import io
+import os
+import sys
+
+ATAS, BAWAH, KIRI, KANAN, LUAR = 1, 2, 4, 8, 16
+KOTAK = ATAS + BAWAH + KIRI + KANAN + LUAR
+
+
+def kolom(k):
+    """The spreadsheet's letters of column k (0 is A)."""
+    nama = ""
+    k += 1
+    while k:
+        k, r = divmod(k - 1, 26)
+        nama = chr(65 + r) + nama
+    return nama
+
+
+def rentang(b1, k1, b2=None, k2=None):
+    """Rows and columns from 0, inclusive, as "B3:H7"."""
+    b2 = b1 if b2 is None else b2
+    k2 = k1 if k2 is None else k2
+    return f"{kolom(k1)}{b1 + 1}:{kolom(k2)}{b2 + 1}"
+
+
+def kotakBlok(garis, b1, k1, b2, k2):
+    """A worked block: a box around it and a line under its heading row."""
+    garis(rentang(b1, k1, b2, k2), KOTAK)
+    garis(rentang(b1, k1, b1, k2), BAWAH + LUAR)
+
+
+def taqribi(baris_kanan, kelompok=5, latitude=True, waktu=False, tempat=()):
+    """The sheets of 40 by 40 drawn by frames.sullam and frames.fathur.
+
+    baris_kanan: the number of row labels of the right block (from row 8); kelompok: the groups
+    of the top block (5, or 4 without the Hishshoh); latitude: whether the look-up of the moon's
+    latitude stands in the middle; waktu: whether the block of the hilal's time follows at row 31;
+    tempat: the rows whose rightmost column holds the place or a sign beside its label."""
+    merge, clear, lines = [], [], []
+
+    def garis(r, sisi):
+        lines.append(f"{r}|{sisi}")
+
+    # The top block: the groups of the years, the month and the sum; lines under the field
+    # headings and over the sum.
+    kiri = 33 - 6 * (kelompok - 1)
+    garis(rentang(1, kiri, 6, 39), KOTAK)
+    garis(rentang(2, kiri, 2, 39), BAWAH + LUAR)
+    garis(rentang(6, kiri, 6, 39), ATAS + LUAR)
+    # The right block: the field headings at row 7, then one row a step.
+    akhir = 7 + baris_kanan
+    kotakBlok(garis, 7, 29, akhir, 39)
+    # The worked look-ups of five lines: in the middle (columns 11-27) and at the left (1-10).
+    tengah = [8, 16] + ([24] if latitude else [])
+    for b in tengah:
+        kotakBlok(garis, b, 11, b + 5, 27)
+    for b in (8, 16, 24):
+        kotakBlok(garis, b, 1, b + 5, 10)
+    if waktu:
+        kotakBlok(garis, 31, 11, 38, 27)
+    # A row label of the right block runs into the empty rightmost column, unless that column
+    # holds the place or a sign.
+    for b in range(8, akhir + 1):
+        if b not in tempat:
+            merge.append(rentang(b, 38, b, 39))
+    # The mansion's name is written in three cells so that the screen shows it whichever of them
+    # it draws; the merged cell keeps the leftmost, the copies go first.
+    clear.append(rentang(29, 8, 29, 9))
+    return merge, clear, lines
+
+
+def syamsul_hilal():
+    """The sheet of 19 by 12 drawn by frames.syamsul_hilal: its labels are merged already."""
+    lines = []
+
+    def garis(r, sisi):
+        lines.append(f"{r}|{sisi}")
+
+    garis(rentang(1, 4, 6, 11), KOTAK)
+    garis(rentang(2, 4, 2, 11), BAWAH + LUAR)
+    garis(rentang(6, 4, 6, 11), ATAS + LUAR)
+    kotakBlok(garis, 7, 9, 18, 11)
+    kotakBlok(garis, 7, 4, 12, 7)
+    kotakBlok(garis, 13, 4, 18, 7)
+    kotakBlok(garis, 7, 0, 17, 2)
+    return [], [], lines
+
+
+PERIKSA = "--verify" in sys.argv[1:]
+USANG = []
+
+
+def tulis(nama, kepala, kolom_kolom):
+    """Writes one table, a column per treatise; with --verify only compares it with the file."""
+    keluar = os.path.join(os.path.dirname(__file__), "..", "..", "data", nama)
+    buf = io.StringIO()
+    w = csv.writer(buf, lineterminator="\n")
+    w.writerow(kepala)
+    panjang = max(len(k) for k in kolom_kolom)
+    for i in range(panjang):
+        w.writerow([k[i] if i < len(k) else "" for k in kolom_kolom])
+    if PERIKSA:
+        with open(keluar, encoding="utf-8", newline="") as fh:
+            if fh.read() != buf.getvalue():
+                USANG.append(nama)
+        return
+    with open(keluar, "w", newline="", encoding="utf-8") as fh:
+        fh.write(buf.getvalue())
+
+
+def main():
+    # Rows beside which the rightmost column holds the place's name or the sign of the place
+    # correction, as each module writes them (KerangkaTaqribi, SullamNairoin).
+    sheets = {
+        "SN": taqribi(31, tempat=(28, 29, 31)),
+        "FR": taqribi(29, tempat=(26, 27)),
+        "IDB1": taqribi(29, waktu=True, tempat=(26, 27)),
+        "SH": syamsul_hilal(),
+        "TZ": taqribi(32, tempat=(29, 30)),
+        "KW1": taqribi(29, kelompok=4, latitude=False, tempat=(26, 27)),
+        "FK": taqribi(29, waktu=True, tempat=(26, 27)),
+    }
+    kode = list(sheets)
+    tulis("MergenExcel.csv", [f"Mergn{x}" for x in kode], [s[0] for s in sheets.values()])
+    tulis("ClearTxtMargen.csv", ["ClearTxtKWI" if x == "KW1" else f"ClearTxt{x}" for x in kode],
+          [s[1] for s in sheets.values()])
+    tulis("Lines.csv", [f"Lines_{x}" for x in kode], [s[2] for s in sheets.values()])
+
+
+if __name__ == "__main__":
+    main()
+    for nama in USANG:
+        print(f"{nama} is not what the generator writes", file=sys.stderr)
+    sys.exit(1 if USANG else 0)
