@@ -46,6 +46,10 @@ std::string PeriksaIsi(const Tabel& tabel) {
     const auto& kolom = tabel.kolom();
     for (size_t k = 0; k < kolom.size(); ++k) {
         if (kolom[k] == "mn" || kolom[k] == "IsiText" || kolom[k].starts_with("Nama")) continue;
+        // The names of the series' terms, and the texts of the formula sheets.
+        if (kolom[k] == "Deret" || kolom[k].find("Nama") != std::string::npos ||
+            kolom[k].find("Rumuz") != std::string::npos || kolom[k].find("Var") != std::string::npos)
+            continue;
         for (size_t b = 0; b < tabel.jumlahBaris(); ++b) {
             const std::string_view sel = tabel.sel(b, k);
             if (!sel.empty() && !AdalahAngka(sel))

@@ -103,6 +103,20 @@ def syamsul_hilal():
     return [], [], lines
 
 
+def ephemeris():
+    """The sheet of 106 by 12 drawn by frames.ephemeris: the hourly table under its two rows of
+    headings, then the reckoning under its own; its labels are merged already."""
+    lines = []
+
+    def garis(r, sisi):
+        lines.append(f"{r}|{sisi}")
+
+    garis(rentang(1, 0, 53, 11), KOTAK)
+    garis(rentang(3, 0, 3, 11), BAWAH + LUAR)
+    kotakBlok(garis, 55, 0, 105, 11)
+    return [], [], lines
+
+
 PERIKSA = "--verify" in sys.argv[1:]
 USANG = []
 
@@ -136,6 +150,7 @@ def main():
         "TZ": taqribi(32, tempat=(29, 30)),
         "KW1": taqribi(29, kelompok=4, latitude=False, tempat=(26, 27)),
         "FK": taqribi(29, waktu=True, tempat=(26, 27)),
+        "ER": ephemeris(),
     }
     kode = list(sheets)
     tulis("MergenExcel.csv", [f"Mergn{x}" for x in kode], [s[0] for s in sheets.values()])

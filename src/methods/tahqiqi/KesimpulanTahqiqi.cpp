@@ -62,7 +62,7 @@ void TulisKesimpulanTahqiqi(Konteks& k, const BahanTahqiqi& b, std::vector<std::
     // A precise book reckons at the place itself: the place is its markaz.
     baris[11] = s.labelKe(14) + tempat;
     baris[12] = s.labelKe(15) + tempat;
-    ringkasan = {b.hariIjtima, jam, NilaiER(b.tinggi), awal};
+    ringkasan = {b.hariIjtima, false, b.hariIjtima, jam, NilaiER(b.tinggi), awal};
 }
 
 }  // namespace falak
