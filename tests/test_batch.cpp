@@ -31,7 +31,7 @@ struct Batch : testing::Test {
 };
 
 // The treatises that have modules, in the order of the tree: the modern reckoning last.
-const std::vector<std::string> kUrutan = {"SN", "FR", "IDB1", "SH", "TZ", "KW1", "FK", "ER"};
+const std::vector<std::string> kUrutan = {"SN", "FR", "IDB1", "SH", "TZ", "KW1", "FK", "BM", "NA", "ER"};
 
 }  // namespace
 

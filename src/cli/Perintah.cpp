@@ -60,6 +60,11 @@ const std::vector<Opsi>& DaftarOpsi() {
         {"--rumus", "", "lembar rumus kitab tahqiqi sesudah kesimpulan"},
         {"--deltat", "", "Ephemeris memakai delta T: jam ijtima' dalam waktu universal (bawaan: tanpa, seperti kitabnya)"},
         {"--xlsx", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .xlsx"},
+#ifdef FALAK_PDF
+        {"--pdf", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .pdf (satu halaman A4)"},
+#else
+        {"--pdf", "BERKAS", "tidak tersedia: falak ini dibangun tanpa Qt"},
+#endif
         {"--batch", "", "operasi satu per baris dari masukan baku"},
         {"--nama", "BARU", "nama baru tempat itu"},
         {"--lintang", "SUDUT", "lintang, mis. \"7 39 LS\" (derajat, menit, LU/LS)"},
@@ -75,7 +80,8 @@ const std::vector<Opsi>& DaftarOpsi() {
 const std::vector<Perintah>& DaftarPerintah() {
     static const std::vector<Perintah> daftar = {
         {"hisab", "", 0, 0,
-         {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--rumus"}, {"--deltat"}},
+         {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--pdf"},
+          {"--rumus"}, {"--deltat"}},
          "ijtima' dan hilal akhir bulan itu menurut satu kitab: lembar kerja dan kesimpulannya", perintahHisab},
         {"semua", "", 0, 0, {{"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--deltat"}},
          "ijtima' dan awal bulan menurut semua kitab, satu baris sekitab", perintahSemua},

@@ -9,6 +9,9 @@
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "export/Excel.h"
+#ifdef FALAK_PDF
+#include "export/Cetak.h"
+#endif
 #include "run/Workspace.h"
 
 namespace falak::cli {
@@ -71,11 +74,18 @@ int perintahHisab(const Argumen& a, const Lingkungan& l) {
     const auto hasil = ws.mnuProsesIjSub(kitab, a.teks("--tahun"), a.bulat("--bulan"), tempat->nama);
     if (hasil.pesan) return Tolak(a, l, hasil.pesan->teks);
     const LembarKerja& tab = *hasil.lembar;
+    std::vector<const LembarKerja*> semua;
+    for (const auto& lembar : ws.lembar) semua.push_back(lembar.get());
     if (a.ada("--xlsx")) {
-        std::vector<const LembarKerja*> semua;
-        for (const auto& lembar : ws.lembar) semua.push_back(lembar.get());
         if (const std::string salah = EksporExcel(semua, true, koneksi, a.teks("--xlsx")); !salah.empty())
             return Tolak(a, l, salah);
+    }
+    if (a.ada("--pdf")) {
+#ifdef FALAK_PDF
+        if (const std::string salah = CetakPdf(semua, koneksi, a.teks("--pdf")); !salah.empty()) return Tolak(a, l, salah);
+#else
+        return Tolak(a, l, "--pdf tidak tersedia: falak ini dibangun tanpa Qt");
+#endif
     }
     const auto rumus = ws.rumus.tampil(tab.kunci);
     if (a.ada("--json")) {

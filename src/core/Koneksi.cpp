@@ -45,7 +45,8 @@ std::string PeriksaIsi(const Tabel& tabel) {
     if (tabel.jumlahBaris() == 0) return "tabel kosong, tidak ada baris isian";
     const auto& kolom = tabel.kolom();
     for (size_t k = 0; k < kolom.size(); ++k) {
-        if (kolom[k] == "mn" || kolom[k] == "IsiText" || kolom[k].starts_with("Nama")) continue;
+        // Texts: mansion names, labels, and the sign ("+" or "-") of the daqa'iq tafawut.
+        if (kolom[k] == "mn" || kolom[k] == "IsiText" || kolom[k] == "Tanda" || kolom[k].starts_with("Nama")) continue;
         // The names of the series' terms, and the texts of the formula sheets.
         if (kolom[k] == "Deret" || kolom[k].find("Nama") != std::string::npos ||
             kolom[k].find("Rumuz") != std::string::npos || kolom[k].find("Var") != std::string::npos)

@@ -8,6 +8,8 @@
 #include "methods/taqribi/SullamNairoin.h"
 #include "methods/taqribi/SyamsulHilal.h"
 #include "methods/taqribi/TadzkirotulIkhwan.h"
+#include "methods/tahqiqi/BadiatulMitsal.h"
+#include "methods/tahqiqi/NurulAnwar.h"
 
 namespace falak {
 
@@ -29,6 +31,11 @@ std::vector<std::string_view> tabelBulan(std::initializer_list<std::string_view>
     return t;
 }
 
+// The tables of the books of mean motions and equations.
+std::vector<std::string_view> tabelTahqiqi() {
+    return tabelBulan({"TQQthMab", "TQQSyahru", "TQQYaumTam", "TQQSaah", "TQQDaqoiqAhTaf", "TQQTaadil"});
+}
+
 }  // namespace
 
 const std::vector<EntriModul>& DaftarModul() {
@@ -47,11 +54,12 @@ const std::vector<EntriModul>& DaftarModul() {
          tabelBulan({"TRBSyahru", "TRBTaadil"}), buat<KhulashohWafiyah>},
         {"FK", Ij, 27, "IjFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi,
          tabelBulan({"TRBSyahru", "TRBTaadil"}), buat<FaidlulKarim>},
-        {"BM", Ij, 31, "IjBM_", "Badi'atu al-Mitsal", "Badi'atu al-Mitsal", Tahqiqi, {}, nullptr},
+        {"BM", Ij, 31, "IjBM_", "Badi'atu al-Mitsal", "Badi'atu al-Mitsal", Tahqiqi, tabelTahqiqi(),
+         buat<BadiatulMitsal>},
         {"MA", Ij, 39, "IjMA_", "Muntaha Nataiji al-Aqwal", "Muntaha Nataiji al-Aqwal", Tahqiqi, {}, nullptr},
         {"IDB2", Ij, 15, "IjIDB2_", "Ittifaq Dzatu al-Bain Tahqiqi", "Ittifaq Dzatu al-Bain (Tahqiqi)", Tahqiqi, {},
          nullptr},
-        {"NA", Ij, 41, "IjNA_", "Nuru al-Anwar", "Nuru al-Anwar", Tahqiqi, {}, nullptr},
+        {"NA", Ij, 41, "IjNA_", "Nuru al-Anwar", "Nuru al-Anwar", Tahqiqi, tabelTahqiqi(), buat<NurulAnwar>},
         {"KW2", Ij, 36, "IjKW2_", "Khulashotu al-Wafiyah Tahqiqi", "Khulashotu al-Wafiyah (Tahqiqi)", Tahqiqi, {},
          nullptr},
         {"IM", Ij, 45, "IjIM_", "Irsyadu al-Murid", "Irsyadu al-Murid", Tahqiqi, {}, nullptr},

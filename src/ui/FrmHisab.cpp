@@ -467,8 +467,14 @@ void FrmHisab::buangLembar(const LembarKerja* lembar) {
                 semua.end());
 }
 
+void FrmHisab::tutupLembarAktif() {
+    if (tab_->currentIndex() >= 0) tutupTab(tab_->currentIndex());
+}
+
 void FrmHisab::perbaruiMenuLembar() {
-    menuLembar_->clear();
+    // The items of the sheets follow the menu's own commands.
+    for (QAction* a : menuLembar_->actions())
+        if (a->objectName().startsWith(QStringLiteral("mnuSheet|"))) delete a;
     for (int i = 0; i < tab_->count(); ++i) {
         QAction* a = menuLembar_->addAction(tab_->tabText(i) + QStringLiteral("  -  ") + tab_->tabToolTip(i));
         a->setObjectName(QStringLiteral("mnuSheet|%1").arg(i + 1));

@@ -74,6 +74,8 @@ public:
     void prosesBatch(Batch batch, Tab tab = Tab::Baru);
     // Opens the places register.
     void bukaDaerah();
+    // Closes the sheet in front, as its tab's close button does.
+    void tutupLembarAktif();
     // Chooses the place, the year and the month, as the user would; a null year or a month 0
     // keeps what is chosen. False when the place is not in the list or the month is past 12.
     bool pilih(const QString& tempat, const QString& tahun, int bulan);

@@ -9,6 +9,7 @@
 #include "core/FungsHisab.h"
 #include "ui/FrmHisab.h"
 #include "ui/KotakPesan.h"
+#include "ui/Kirim.h"
 
 namespace falak::ui {
 
@@ -18,12 +19,17 @@ QString q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<q
 
 void keluar(FrmHisab& j, QAction&) { j.close(); }
 void bukaDaerah(FrmHisab& j, QAction&) { j.bukaDaerah(); }
+void tutupLembar(FrmHisab& j, QAction&) { j.tutupLembarAktif(); }
 void prosesKitab(FrmHisab& j, const EntriModul& m) { j.prosesKitab(std::string(m.kode)); }
 void prosesSemuaMetode(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0, FrmHisab::Tab::Ganti); }
 void prosesSemuaMetodeTabBaru(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0); }
 void prosesBulan(FrmHisab& j, int bulan) { j.prosesSemuaMetode(bulan); }
 void prosesSetahun(FrmHisab& j, QAction&) { j.prosesSetahun(FrmHisab::Tab::Ganti); }
 void prosesSetahunTabBaru(FrmHisab& j, QAction&) { j.prosesSetahun(); }
+void eksporIni(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::HalamanIni); }
+void eksporKet(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Keterangan); }
+void eksporSemua(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Semua); }
+void cetak(FrmHisab& j, QAction&) { Cetak(j); }
 
 QString judulBulan(int bulan) { return QString::fromUtf8(kBarisBulan[static_cast<size_t>(bulan - 1)]); }
 QString tahunKedepan(int n) { return QString::number(n) + QStringLiteral(" tahun kedepan"); }
@@ -105,12 +111,12 @@ const std::vector<ItemMenu>& DaftarMenu() {
     static const std::vector<ItemMenu> daftar = {
         Menu("", "FILE", "&File"),
         Menu("FILE", "mnuExport", "Kirim ke Excel (&Export to Excel)"),
-        Perintah("mnuExport", "mnuExportThis", "&Halaman Ini Saja", nullptr, QKeySequence(Qt::CTRL | Qt::Key_E)),
-        Perintah("mnuExport", "mnuExportKet", "&Keterangan Saja", nullptr),
-        Perintah("mnuExport", "mnuExportAll", "Se&mua", nullptr, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)),
+        Perintah("mnuExport", "mnuExportThis", "&Halaman Ini Saja", eksporIni, QKeySequence(Qt::CTRL | Qt::Key_E)),
+        Perintah("mnuExport", "mnuExportKet", "&Keterangan Saja", eksporKet),
+        Perintah("mnuExport", "mnuExportAll", "Se&mua", eksporSemua, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)),
         Perintah("FILE", "mnuExportRumus", "Kirim Rumus ke Word (&Export to Word)", nullptr),
         Pemisah("FILE", "SEPARATOR1"),
-        Perintah("FILE", "mnuPrint", "Cetak (&Print)", nullptr, QKeySequence::Print),
+        Perintah("FILE", "mnuPrint", "Cetak (&Print)", cetak, QKeySequence::Print),
         Pemisah("FILE", "SEPARATOR2"),
         bolehSibuk(Perintah("FILE", "mnuExit", "Keluar (&Exit)", keluar, QKeySequence::Quit)),
 
@@ -140,6 +146,8 @@ const std::vector<ItemMenu>& DaftarMenu() {
         PerNomor("mnuthGerhanaM", "mnthGM", 1, 10, tahunKedepan, nullptr),
 
         MenuJendela("", "SHEETSMENU", "&Lembar"),
+        Perintah("SHEETSMENU", "mnuTutupLembar", "&Tutup Lembar Ini", tutupLembar, QKeySequence(Qt::CTRL | Qt::Key_W)),
+        Pemisah("SHEETSMENU", "SEPARATOR"),
 
         Menu("", "HELP", "&Help"),
         bolehSibuk(Perintah("HELP", "mnuAbout", "Seng Nggawe Program", tentang)),
@@ -197,12 +205,13 @@ MenuTerbangun BangunMenu(FrmHisab& jendela, QMenuBar& bar, const std::vector<Ite
         }
     }
     // A menu with nothing to choose is not there; an inner menu first, so that its parent
-    // then knows whether anything is left in it. The window's own menus wait hidden.
+    // then knows whether anything is left in it. The window's own menus wait hidden until it
+    // has put its items in them.
     for (auto it = urutan.rbegin(); it != urutan.rend(); ++it) {
         auto [m, diisiJendela] = *it;
         bool ada = false;
         for (const QAction* a : m->actions()) ada = ada || !a->isSeparator();
-        if (diisiJendela) m->menuAction()->setVisible(ada);
+        if (diisiJendela) m->menuAction()->setVisible(false);
         else if (!ada) delete m;
     }
     return hasil;

@@ -39,7 +39,7 @@ struct ItemMenu {
     std::string_view judul;
     QKeySequence pintasan{};
     bool bolehSaatSibuk = false;  // stays enabled while a job runs: it touches no session
-    bool diisiJendela = false;    // a menu that the window fills as it goes: kept while empty
+    bool diisiJendela = false;    // a menu that the window fills as it goes: kept, hidden at first
     AksiMenu aksi = nullptr;
     // Called when the current sheet changes or a job ends, for an item whose caption or
     // state follows the sheet in front.

@@ -103,6 +103,26 @@ def syamsul_hilal():
     return [], [], lines
 
 
+def tahqiqi(hasil):
+    """The sheets of 48 by 51 drawn by frames.tahqiqi: the rows of six cells at the top, then
+    the luminaries and the ijtima' at the right, the worked look-ups in the middle and the
+    hilal's `hasil` values at the left."""
+    lines = []
+
+    def garis(r, sisi):
+        lines.append(f"{r}|{sisi}")
+
+    garis(rentang(1, 1, 12, 50), KOTAK)
+    garis(rentang(2, 1, 2, 50), BAWAH + LUAR)
+    garis(rentang(7, 1, 7, 50), ATAS + LUAR)
+    garis(rentang(12, 1, 12, 50), ATAS + LUAR)
+    garis(rentang(15, 39, 34, 50), KOTAK)
+    for b in range(5):
+        kotakBlok(garis, 14 + 6 * b, 25, 19 + 6 * b, 37)
+    garis(rentang(15, 11, 14 + hasil, 23), KOTAK)
+    return [], [], lines
+
+
 def ephemeris():
     """The sheet of 106 by 12 drawn by frames.ephemeris: the hourly table under its two rows of
     headings, then the reckoning under its own; its labels are merged already."""
@@ -150,6 +170,8 @@ def main():
         "TZ": taqribi(32, tempat=(29, 30)),
         "KW1": taqribi(29, kelompok=4, latitude=False, tempat=(26, 27)),
         "FK": taqribi(29, waktu=True, tempat=(26, 27)),
+        "BM": tahqiqi(32),
+        "NA": tahqiqi(29),
         "ER": ephemeris(),
     }
     kode = list(sheets)

@@ -169,6 +169,59 @@ def syamsul_hilal():
     return f
 
 
+HASIL_BM = ["تقويم الشمس", "ميل الشمس", "عرض البلد", "تعديل النهار", "نصف قوس النهار", "قوس المطالع",
+            "مطالع الشمس", "مطالع الغروب", "تقويم القمر", "الميل الأول", "حصة العرض", "عرض القمر",
+            "البعد عن المعدل", "ميل القمر", "تعديل نهار القمر", "نصف قوس نهار القمر", "الميل الثاني",
+            "قوس مطالع القمر", "مطالع القمر", "مطالع غروب القمر", "مطالع الغروب", "مكث الهلال",
+            "المكث بالساعات", "فضل الدائر", "ارتفاع الهلال", "سمت الشمس", "سمت القمر", "فضل السمتين",
+            "انحراف الهلال", "سمت الهلال", "بعد السمتين", "نور الهلال"]
+HASIL_NA = ["تقويم الشمس", "ميل الشمس", "عرض البلد", "نصف قوس الغروب", "قوس المطالع", "مطالع الشمس",
+            "مطالع الغروب", "تقويم القمر", "الميل الأول", "حصة العرض", "عرض القمر", "البعد عن المعدل",
+            "ميل القمر", "نصف قوس غروب القمر", "الميل الثاني", "الميل الأوسط", "قوس مطالع القمر",
+            "مطالع القمر", "مطالع غروب القمر", "مطالع الغروب", "مكث الهلال", "فضل الدائر", "ارتفاع الهلال",
+            "المكث بالساعات", "سمت الشمس", "سمت القمر", "فضل السمتين", "البعد", "نور الهلال"]
+
+
+def tahqiqi(hasil):
+    """The precise books: a grid of 48 by 51. The rows of six cells run along rows 3 to 12
+    (the alamah's weekday, pasaran, hour and minute at columns 47-41, then each element's
+    buruj, degree, minute and second, eight columns apart from 39); below them the true sun,
+    the moon's corrections and the ijtima' (column 47), the worked look-ups (column 33) and
+    the hilal's values (column 19), each with its label to its right."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    label("العلامة", 1, 41, 47)
+    for i, teks in enumerate(["وسط الشمس", "خاصة الشمس", "وسط القمر", "خاصة القمر", "العقدة"]):
+        label(teks, 1, 33 - 8 * i, 39 - 8 * i)
+    for kol, teks in [(47, YAUM), (45, "الفصل"), (43, SAAH), (41, DAQIQAH)]:
+        label(teks, 2, kol)
+    for awal in (39, 31, 23, 15, 7):
+        for i, teks in enumerate((BURUJ, DARAJAH, DAQIQAH, TSANIYAH)):
+            label(teks, 2, awal - 2 * i)
+    label("السنين", 2, 49, 50)
+    atas = ["المجموعة", "المبسوطة", "الشهر", "الأيام التامة", "الجملة", "دقائق التفاوت", "فضل الطولين",
+            "ساعات الغروب", "دقائق الغروب", "المقوم"]
+    for i, teks in enumerate(atas):
+        label(teks, 3 + i, 49, 50)
+    kanan = {15: "تعديل الشمس", 16: "تقويم الشمس", 18: "وسط القمر", 19: "التعديل الأول", 20: "المعدل الأول",
+             21: "التعديل الثاني", 22: "المعدل الثاني", 23: "التعديل الثالث", 24: "المعدل الثالث",
+             25: "التعديل الرابع", 26: "المعدل الرابع", 27: "التعديل الخامس", 28: "تقويم القمر", 30: "البعد",
+             31: "سبق القمر", 32: "ساعات البعد", 33: "الغروب", 34: "الاجتماع"}
+    for baris, teks in kanan.items():
+        label(teks, baris, 48, 50)
+    for j, teks in enumerate(["تعديل الشمس", "التعديل الثاني", "التعديل الثالث", "التعديل الرابع",
+                              "التعديل الخامس"]):
+        label(teks, 14 + 6 * j, 25, 37)
+        for i, baris in enumerate(["المدخل", "السطر", "ما بعده", "الفضل", "الحاصل"]):
+            label(baris, 15 + 6 * j + i, 34, 37)
+    for i, teks in enumerate(hasil):
+        label(teks, 15 + i, 20, 23)
+    return f
+
+
 # The labels of the conclusion lines, read by position (the line writers name the position).
 LABEL = [
     "Awal bulan sesudah ",        # 0  first of the month, after the chosen month's name
@@ -251,6 +304,8 @@ def main():
         "KW1": fathur(sel=4, latitude=False),
         "FK": fathur(waktu=True),
         "SH": syamsul_hilal(),
+        "BM": tahqiqi(HASIL_BM),
+        "NA": tahqiqi(HASIL_NA),
         "ER": ephemeris(),
     }
     panjang = max(len(v) for v in frames.values())

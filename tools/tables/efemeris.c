@@ -19,6 +19,8 @@
  *                     the moon's geocentric elongation from the sun, and the moon's
  *                     topocentric altitude (at sea level), no refraction.
  *   eot JD            equation of time, apparent less mean, minutes.
+ *   lon JD            apparent geocentric longitudes of the sun and the moon, and the moon's
+ *                     latitude, degrees.
  */
 #include <math.h>
 #include <stdio.h>
@@ -103,6 +105,11 @@ int main(void) {
         } else if (!strcmp(what, "alt")) {
             printf("%.6f %.6f %.6f %.6f\n", altitude(SE_MOON, jd, lon, lat), altitude(SE_SUN, jd, lon, lat),
                    fabs(elongation(jd, NULL)), altitude_from(SE_MOON, jd, lon, lat, 1));
+        } else if (!strcmp(what, "lon")) {
+            double x[6];
+            char err[AS_MAXCH];
+            swe_calc_ut(jd, SE_MOON, SEFLG_SWIEPH, x, err);
+            printf("%.6f %.6f %.6f\n", ecliptic(SE_SUN, jd, NULL), x[0], x[1]);
         } else if (!strcmp(what, "eot")) {
             double e;
             char err[AS_MAXCH];

@@ -163,6 +163,9 @@ SIMPUL = 0.15  # the node's annual equation, the node's longitude less this time
 # The constants that keep the tables of minutes positive (degrees).
 C9, C11, C14, C15 = sx(0, 12), sx(0, 12), sx(0, 10), sx(0, 7)
 C13 = sx(0, 40)
+# The evection's table carries 7 degrees: with them the moon's centre, which takes every
+# constant back, stays below zero on the whole circle and never crosses the wrap of its table.
+C10 = sx(7)
 # The hourly tables of Nuru al-Anwar: the constants of the evection's and the variation's share.
 C19, C20 = sx(0, 0, 40), sx(0, 0, 45)
 
@@ -199,7 +202,7 @@ def arg_eveksi(x):
 
 def eveksi(x):
     """Code 10: the evection, read at 2 (moon - true sun) - anomaly."""
-    return EVEKSI * math.sin(arg_eveksi(x))
+    return float(C10) + EVEKSI * math.sin(arg_eveksi(x))
 
 
 def tahunan_khossoh(x):
@@ -208,8 +211,8 @@ def tahunan_khossoh(x):
     return float(C11) + TAHUNAN * math.sin(anomali_syams(x))
 
 
-# The offsets that arrive with the corrected anomaly: the constants of codes 9 and 11.
-GESER_KHOSSOH = float(C9 + C11)
+# The offsets that arrive with the corrected anomaly: the constants of codes 9, 10 and 11.
+GESER_KHOSSOH = float(C9 + C10 + C11)
 
 
 def markaz_qomar(x):
@@ -217,7 +220,7 @@ def markaz_qomar(x):
     of the other tables of the moon's place and the book's own offset of the mean moon."""
     m = (x - GESER_KHOSSOH - OFSET["kq"] - 180) * RAD
     c = MOON_C[0] * math.sin(m) + MOON_C[1] * math.sin(2 * m)
-    return c - float(C9 + C13 + C15) - OFSET["wq"]
+    return c - float(C9 + C10 + C13 + C15) - OFSET["wq"]
 
 
 def variasi(x):
@@ -307,9 +310,9 @@ def tabel_bulan():
 
 
 def tabel_hari():
-    # From the noon of the table's day to the midnight that opens the day n days on: the clock
-    # hours of sunset then count from that midnight.
-    return KEPALA_GERAK, [[str(n)] + baris_gerak(Fraction(2 * n - 1, 2)) for n in range(1, 32)]
+    # Whole days, from the noon where the sum stands to the noon n days on; the hours of sunset
+    # then count from that noon, as the books' clock of sunset reads them.
+    return KEPALA_GERAK, [[str(n)] + baris_gerak(Fraction(n)) for n in range(1, 32)]
 
 
 def gerak_jam(jam, kolom_q):
@@ -372,7 +375,7 @@ KODE = [
     # code, columns, function, fields below the first, signed
     (8, ("tdlSyamsiJah", "tdlSyamsiQoh", "tdlSyamsiNii"), persamaan_syams, 2, True),
     (9, ("tdlAwalQomarQoh", "tdlAwalQomarNii"), tahunan, 2, False),
-    (10, ("tdlTsaniQomarJah", "tdlTsaniQomarQoh", "tdlTsaniQomarNii"), eveksi, 2, True),
+    (10, ("tdlTsaniQomarJah", "tdlTsaniQomarQoh", "tdlTsaniQomarNii"), eveksi, 2, False),
     (11, ("tdlTsalitsKhQomarQoh", "tdlTsalitsKhQomarNii"), tahunan_khossoh, 2, False),
     (12, ("tdlTsalitsWsQomarJah", "tdlTsalitsWsQomarQoh", "tdlTsalitsWsQomarNii"), markaz_qomar, 2, True),
     (13, ("tdlRobiWsQomarQoh", "tdlRobiWsQomarNii"), variasi, 2, False),
@@ -385,6 +388,19 @@ KODE = [
     (20, ("SabaqQ3Nii", "SabaqQ3Lis"), sabaq_variasi, 3, False),
     (21, ("SabaqSQoh", "SabaqSNii", "SabaqSLis"), sabaq_syams, 3, False),
 ]
+
+
+def tanpa_lintas(kode, fungsi, bertanda_):
+    """The engine interpolates two rows by their difference in degrees on the circle, which
+    cannot step across the wrap: a table whose rows pass from just above 0 to just below 360
+    reads nonsense between them. Only the sun's equation, which has no constant to hold it on
+    one side (the books add it to nothing else), crosses, at its two changes of sign."""
+    if not bertanda_:
+        return
+    nilai = [fungsi(c % 360) % 360 for c in range(1, 361)]
+    lintas = sum(1 for a, b in zip(nilai, nilai[1:] + nilai[:1]) if abs(a - b) > 180)
+    if lintas > (2 if kode == 8 else 0):
+        raise ValueError(f"the table of code {kode} crosses the wrap {lintas} times")
 
 
 def sel_kode(fungsi, fields, bertanda_, kolom, x):
@@ -404,6 +420,8 @@ def sel_kode(fungsi, fields, bertanda_, kolom, x):
 
 
 def tabel_taadil():
+    for kode, _, fungsi, _, signed in KODE:
+        tanpa_lintas(kode, fungsi, signed and kode != 16)
     kepala = ["Cari"] + [k for _, kolom, _, _, _ in KODE for k in kolom]
     rows = []
     for c in range(1, 361):

@@ -14,6 +14,7 @@
 #include "core/Sesi.h"
 #include "methods/Lembar.h"
 #include "methods/tahqiqi/KesimpulanTahqiqi.h"
+#include "methods/taqribi/KesimpulanTaqribi.h"
 
 namespace falak {
 
@@ -582,24 +583,31 @@ void Ephemeris::HilalER() {
 
 void Ephemeris::KesimpulanER(HasilHitung& h) {
     const auto& R = ERHasil;
-    const Sesi& s = k_.sesi;
-    BahanTahqiqi b;
+    const Tempat& t = k_.sesi.tempat;
+    BahanKesimpulanTahqiqi b;
     const int bulanBaru = bulan_ % 12 + 1;
     const int32_t tahunBaru = bulan_ == 12 ? tahun_ + 1 : tahun_;
     b.judul = "Hisab Awal Bulan " + ClsKesimpulan::NamaBulan(bulanBaru - 1) + " " + std::to_string(tahunBaru) +
-              " H. Metode EPHEMERIS Untuk daerah " + s.tempat.nama;
-    b.hariIjtima = ERHariIjtima;
-    b.jamIjtima = R[8];
-    // Local apparent time: the zone's clock less the place's correction, with the equation
-    // of time of the hour of the ijtima'.
-    b.jamIjtimaWis = R[8] - R[18] + ERDaqoiq(static_cast<size_t>(ERJamTerbaik));
-    b.ghurub = R[20];
-    b.ghurubWis = R[20] - R[18] + R[26];
+              " H. Metode EPHEMERIS Untuk daerah " + t.nama;
+    // Local apparent time: the zone's clock less the place's correction, with the equation of
+    // time of the hour of the ijtima'; the civil day moves with it across midnight.
+    const double wis = R[8] - R[18] + ERDaqoiq(static_cast<size_t>(ERJamTerbaik));
+    const int geser = static_cast<int>(std::floor(wis / 24));
+    b.hari.ijtima = ClsKesimpulan::GeserHari(ERHariIjtima, geser);
+    b.jamIjtima = Waktu::dari(0, 0, static_cast<int64_t>(std::floor((wis - 24.0 * geser) * 3600)));
+    // One day on when the ijtima' falls before sunset and the hilal stands at 2 degrees or
+    // more, else two.
+    const bool terlihat = R[8] < R[20] && R[41] >= 2;
+    b.hari.awal = AwalBulanTaqribi(ERHariIjtima, terlihat ? 2.0 : 0.0);
     b.tinggi = R[41];
+    const double matahari = ERThulSyams(static_cast<size_t>(ERJamTerbaik));
+    b.matahari = DesimalKeNilai(JenisBusur, TandaIkut, ModusBuruj, static_cast<float>(matahari), 1)
+                     .value_or(Nilai("00 00 00 00 00 1"));
     b.mukts = R[42];
     b.nur = R[48];
-    b.azimutSyams = R[44];
-    b.azimutHilal = R[45];
+    // The reckoning is made at the place itself: it is its own markaz.
+    b.markaz = {t.nama.c_str(), t.lintangDerajat, t.lintangMenit, static_cast<int>(ValAngka(t.tandaLintang)),
+                t.bujurDerajat, t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur))};
     TulisKesimpulanTahqiqi(k_, b, h.kesimpulan, h.ringkasan);
 }
 

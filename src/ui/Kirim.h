@@ -1,0 +1,21 @@
+// The commands by which the work sheets leave the window: to a spreadsheet file, chosen in a
+// save dialog, and to the printer through the print preview.
+#pragma once
+
+namespace falak::ui {
+
+class FrmHisab;
+
+// What goes to the spreadsheet: the sheet in front with its conclusion (mnuExportThis), its
+// conclusion alone (mnuExportKet), or every sheet on the tabs (mnuExportAll).
+enum class BagianKirim { HalamanIni, Keterangan, Semua };
+
+// Asks for a file (the dialog "dlgKirimExcel") and writes the workbook; the export guard's
+// message when no sheet exists, a message when the file cannot be written.
+void KirimExcel(FrmHisab& jendela, BagianKirim bagian);
+
+// The print preview (the dialog "dlgCetak") of the sheet in front and its conclusion, from
+// which the user prints; the export guard's message when no sheet exists.
+void Cetak(FrmHisab& jendela);
+
+}  // namespace falak::ui
