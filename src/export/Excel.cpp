@@ -6,7 +6,12 @@
 #include <charconv>
 #include <map>
 #include <tuple>
+
+#ifdef _WIN32
+#include <random>
+#else
 #include <unistd.h>
+#endif
 
 #include "core/Berkas.h"
 #include "export/TataLembar.h"
@@ -60,6 +65,7 @@ public:
         if (buku_) workbook_close(buku_);
     }
     bool ada() const { return buku_ != nullptr; }
+    bool kosong() const { return nama_.empty(); }
 
     // A new worksheet named after the caption; none when no name can be found for it.
     lxw_worksheet* lembarBaru(std::string_view judul) {
@@ -244,12 +250,21 @@ class BerkasKerja {
 public:
     BerkasKerja() {
         std::error_code ec;
-        std::string pola = (std::filesystem::temp_directory_path(ec) / "falak-XXXXXX").string();
+        const std::filesystem::path folder = std::filesystem::temp_directory_path(ec);
+#ifdef _WIN32
+        std::random_device acak;
+        for (int coba = 0; coba < 100 && jalur_.empty(); ++coba) {
+            const auto calon = folder / ("falak-" + std::to_string(acak()) + ".xlsx");
+            if (!std::filesystem::exists(calon, ec)) jalur_ = calon;
+        }
+#else
+        std::string pola = (folder / "falak-XXXXXX").string();
         const int fd = ::mkstemp(pola.data());
         if (fd >= 0) {
             ::close(fd);
             jalur_ = pola;
         }
+#endif
     }
     ~BerkasKerja() {
         std::error_code ec;
@@ -278,10 +293,14 @@ std::string EksporExcel(const std::vector<const LembarKerja*>& lembar, bool deng
                 TerapkanTata(s, koneksi, AkhiranTata(l->kunci));
                 if (lxw_worksheet* ws = buku.lembarBaru(l->judul)) PenulisLembar(buku, ws, s).tulis();
             }
-            // The sheets of one run (an eclipse and its table) share one conclusion.
-            if (kesimpulan.empty() || *kesimpulan.back() != l->kesimpulan) kesimpulan.push_back(&l->kesimpulan);
+            // The sheets of one run (an eclipse and its table) share one conclusion; a sheet
+            // without one (the calendar) adds none.
+            if (!l->kesimpulan.empty() && (kesimpulan.empty() || *kesimpulan.back() != l->kesimpulan))
+                kesimpulan.push_back(&l->kesimpulan);
         }
-        if (lxw_worksheet* ws = buku.lembarBaru("Kesimpulan")) tulisKesimpulan(buku, ws, kesimpulan);
+        if (!kesimpulan.empty())
+            if (lxw_worksheet* ws = buku.lembarBaru("Kesimpulan")) tulisKesimpulan(buku, ws, kesimpulan);
+        if (buku.kosong()) return "Tidak ada lembar hisab atau kesimpulan untuk dikirim.";
         if (!buku.tutup()) return "Buku kerja tidak dapat ditulis.";
     }
     std::string isi;

@@ -1,7 +1,7 @@
 // wsExl: the work sheets as a spreadsheet file (.xlsx), written without any office program.
 // One worksheet a work sheet, named by its tab's caption, with the grid's cells, merges, lines
 // and formula tips and the sheet's page set-up; then a worksheet "Kesimpulan" with the
-// conclusion of each, split at its ":" into a label and a value.
+// conclusion of each, split at its ":" into a label and a value (none when no sheet has one).
 //
 // A right-to-left sheet is written as a right-to-left worksheet: its columns are mirrored, so
 // that the book's row labels, at the grid's right, stand in column A at the worksheet's right.

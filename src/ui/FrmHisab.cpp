@@ -43,7 +43,9 @@ namespace {
 QString q(const std::string& s) { return QString::fromStdString(s); }
 QString q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<qsizetype>(s.size())); }
 
-constexpr int kPeranKitab = Qt::UserRole;  // the treatise's code on an item of the tree
+// On an item of the tree: the book's code, and the place of its module in the registry.
+constexpr int kPeranKitab = Qt::UserRole;
+constexpr int kPeranModul = Qt::UserRole + 1;
 
 // Where the user's eye goes first on a start: the month that runs now, by the program's own
 // calendar. The first day of each month of the years around today's, the last one that has
@@ -207,8 +209,10 @@ void FrmHisab::buatTampilan() {
     statusBar()->addPermanentWidget(stop_);
 
     connect(pohon_, &QTreeWidget::itemClicked, this, [this](QTreeWidgetItem* item) {
-        const QString kode = item->data(0, kPeranKitab).toString();
-        if (!kode.isEmpty()) prosesKitab(kode.toStdString());
+        const QVariant i = item->data(0, kPeranModul);
+        if (!i.isValid()) return;
+        const EntriModul& m = DaftarModul()[i.toULongLong()];
+        AksiGarapan(m.garapan)(*this, m);
     });
     auto* enter = new QShortcut(QKeySequence(Qt::Key_Return), pohon_, nullptr, nullptr, Qt::WidgetShortcut);
     connect(enter, &QShortcut::activated, this, [this] {
@@ -229,21 +233,25 @@ void FrmHisab::buatMenu() {
 }
 
 void FrmHisab::isiPohon() {
-    // The modules that exist, under the heading of their group, in the order of the registry;
-    // a group without one is left out.
-    for (const EntriModul* k : ws_->kitabTersedia()) {
-        const QString kelompok = q(NamaKelompok(k->garapan, k->aliran));
+    // The modules that exist and that a command runs, under the heading of their group, in the
+    // order of the registry; a group without one is left out.
+    const auto& daftar = DaftarModul();
+    for (size_t i = 0; i < daftar.size(); ++i) {
+        const EntriModul& k = daftar[i];
+        if (!ws_->modul(k) || !AksiGarapan(k.garapan)) continue;
+        const QString kelompok = q(NamaKelompok(k.garapan, k.aliran));
         QTreeWidgetItem* induk = nullptr;
-        for (int i = 0; i < pohon_->topLevelItemCount() && !induk; ++i)
-            if (pohon_->topLevelItem(i)->text(0) == kelompok) induk = pohon_->topLevelItem(i);
+        for (int j = 0; j < pohon_->topLevelItemCount() && !induk; ++j)
+            if (pohon_->topLevelItem(j)->text(0) == kelompok) induk = pohon_->topLevelItem(j);
         if (!induk) {
             induk = new QTreeWidgetItem({kelompok});
             induk->setFlags(Qt::ItemIsEnabled);
             pohon_->addTopLevelItem(induk);
         }
-        auto* item = new QTreeWidgetItem({q(k->namaPohon)});
-        item->setData(0, kPeranKitab, q(k->kode));
-        item->setToolTip(0, q(k->nama));
+        auto* item = new QTreeWidgetItem({q(k.namaPohon)});
+        item->setData(0, kPeranKitab, q(k.kode));
+        item->setData(0, kPeranModul, QVariant::fromValue<qulonglong>(i));
+        item->setToolTip(0, q(k.nama));
         induk->addChild(item);
     }
     pohon_->expandAll();

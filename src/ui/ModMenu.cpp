@@ -217,6 +217,12 @@ MenuTerbangun BangunMenu(FrmHisab& jendela, QMenuBar& bar, const std::vector<Ite
     return hasil;
 }
 
+AksiModul AksiGarapan(Garapan garapan) {
+    for (const ItemMenu& m : DaftarMenu())
+        if (m.jenis == ItemMenu::Jenis::PerModul && m.garapan == garapan && m.aksiModul) return m.aksiModul;
+    return nullptr;
+}
+
 bool AdaGarapan(FrmHisab& jendela) {
     if (jendela.lembarAktif()) return true;
     BukaPesan(&jendela, QMessageBox::Critical, QStringLiteral("Ojok gerusa gerusu...!"),

@@ -73,6 +73,10 @@ struct MenuTerbangun {
 // Builds the menus of the list on the bar, for the modules that the window's session has.
 MenuTerbangun BangunMenu(FrmHisab& jendela, QMenuBar& bar, const std::vector<ItemMenu>& daftar);
 
+// The command that runs a module of this kind, from its line on the list; none while that
+// work has not landed. The tree of books runs its items by it too.
+AksiModul AksiGarapan(Garapan garapan);
+
 // The export guard: true when a work sheet of a run exists; else it tells the user so.
 bool AdaGarapan(FrmHisab& jendela);
 

@@ -15,7 +15,11 @@
 //     after the ijtima's day, else one) gives on the true conjunction and height.
 //  3. The hours per degree of table 6 at Tadzkirotu's own anomaly against the true rate of
 //     elongation at each true conjunction.
-//  4. The modern reckoning (Ephemeris), every month of 1400 to 1500 H at Jakarta and at Makkah,
+//  4. The precise books (Badi'atu al-Mitsal, Nuru al-Anwar) over every month of 1440 to 1450 H
+//     at their tables' place (112 13 E): the ijtima' in minutes against the true conjunction,
+//     the height against the true geocentric airless height at the sunset the book reckons,
+//     and, at that sunset, the book's true sun and true moon against their apparent places.
+//  5. The modern reckoning (Ephemeris), every month of 1400 to 1500 H at Jakarta and at Makkah,
 //     as the book has it and with delta T: its ijtima' against the true conjunction (universal
 //     time), its sunset against the true sunset of the same day, and at its own sunset the
 //     moon's geocentric airless height and the elongation against the sky at the same instant.
@@ -36,6 +40,8 @@
 #include "methods/tahqiqi/Ephemeris.h"
 #include "methods/taqribi/KerangkaTaqribi.h"
 #include "methods/taqribi/SyamsulHilal.h"
+#include "methods/tahqiqi/KerangkaTahqiqi.h"
+#include "conclusions/Kesimpulan.h"
 #include "run/Workspace.h"
 
 using namespace falak;
@@ -127,10 +133,10 @@ double tinggiGeosentris(double jdUt, double lintang, double bujur) {
     return std::asin(std::sin(f) * std::sin(d) + std::cos(f) * std::cos(d) * std::cos(H)) * 180 / M_PI;
 }
 
-double gurubSesudah(double jdUt, double lintang, double bujur) {
+double gurubSesudah(double jdUt, double lintang, double bujur, int tepi = 0) {
     double geo[3] = {bujur, lintang, 0}, t = 0;
     char err[256];
-    swe_rise_trans(jdUt, SE_SUN, nullptr, SEFLG_SWIEPH, SE_CALC_SET, geo, 1013.25, 15, &t, err);
+    swe_rise_trans(jdUt, SE_SUN, nullptr, SEFLG_SWIEPH, SE_CALC_SET | tepi, geo, 1013.25, 15, &t, err);
     return t;
 }
 
@@ -333,8 +339,68 @@ int main() {
         std::printf("table - true, minutes of time per degree: mean %+.2f, mean |.| %.2f, largest %+.2f (%d months)\n",
                     beda.rata(), beda.rataMutlak(), beda.maks, beda.n);
     }
+    std::printf("\n4. The precise books, every month of 1440-1450 H at 112 13 E (Jombang, 7 33 S)\n");
+    std::printf("%-5s | ijtima' - true (min)      | height - true (deg)    | sun - true (')  | moon - true (')\n", "kitab");
+    std::printf("%-5s | mean  |mean|  largest     | mean  |mean|  largest  | |mean|  largest | |mean|  largest\n", "");
+    {
+        ws.pilihTempat("Jombang");
+        const double lintang = -(7 + 33 / 60.0), bujur = 112 + 13 / 60.0;
+        for (const char* kode : {"BM", "NA"}) {
+            auto* buku = dynamic_cast<KerangkaTahqiqi*>(ws.modul(kode));
+            Stat ij, tg, tgPusat, matahari, bulanS;
+            int lintas = 0;
+            auto derajat = [](const Nilai& v) {
+                return AmbilTingkat(v, 1) * 30.0 + AmbilTingkat(v, 2) + AmbilTingkat(v, 3) / 60.0 +
+                       AmbilTingkat(v, 4) / 3600.0 + AmbilTingkat(v, 5) / 216000.0;
+            };
+            for (int tahun = 1440; tahun <= 1450; ++tahun) {
+                for (int bulan = 1; bulan <= 12; ++bulan) {
+                    ws.sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");
+                    buku->Hitung({tahun, static_cast<int16_t>(bulan), false});
+                    const auto t29 = ClsKesimpulan::ConvertToHijri(tahun, static_cast<int16_t>(bulan), 29);
+                    if (!t29) continue;
+                    // Local apparent clock to UT: the equation of time of the day.
+                    auto keUt = [&](double hariLokal, double jamWis) {
+                        double e = 0;
+                        char err[256];
+                        const double kira = hariLokal + jamWis / 24 - bujur / 360;
+                        swe_time_equ(kira, &e, err);
+                        return kira - e;
+                    };
+                    // The sun's equation read between the two rows where it changes sign: the
+                    // engine's difference across the wrap of the circle is nonsense there.
+                    if (std::fabs(derajat(buku->Tdl[0](2)) - derajat(buku->Tdl[0](3))) > 180) {
+                        ++lintas;
+                        continue;
+                    }
+                    const double hari29 = jdSipil(*t29);
+                    const double ijtima = keUt(hari29 + buku->geserHari, NilaiDesimal(3, buku->Ijtima(5)));
+                    ij.tambah((ijtima - ijtimaAkhirBulan(tahun, bulan)) * 1440);
+                    const double hariHilal = hari29 + buku->hariLagi;
+                    const double gurub = keUt(hariHilal, NilaiDesimal(3, buku->Ijtima(4)));
+                    const double gurubSejati = gurubSesudah(hariHilal - bujur / 360 + 0.25, lintang, bujur);
+                    tg.tambah(buku->tinggiHilal() - tinggiGeosentris(gurubSejati, lintang, bujur));
+                    // The same at the moment the sun's centre reaches the airless horizon.
+                    const double gurubPusat = gurubSesudah(hariHilal - bujur / 360 + 0.25, lintang, bujur,
+                                                           SE_BIT_DISC_CENTER | SE_BIT_NO_REFRACTION);
+                    tgPusat.tambah(buku->tinggiHilal() - tinggiGeosentris(gurubPusat, lintang, bujur));
+                    double m[6], sn[6];
+                    posisi(gurub, SE_MOON, 0, m);
+                    posisi(gurub, SE_SUN, 0, sn);
+                    matahari.tambah(bujurBeda(derajat(buku->Syams(2)), sn[0]) * 60);
+                    bulanS.tambah(bujurBeda(derajat(buku->Qomar(11)), m[0]) * 60);
+                }
+            }
+            std::printf("%-5s | %+6.1f %6.1f %+8.1f   | %+5.2f %5.2f %+7.2f   | %5.2f %+7.2f  | %5.2f %+7.2f   (%d months;"
+                        " %d left out: the sun's equation read across its change of sign)\n",
+                        kode, ij.rata(), ij.rataMutlak(), ij.maks, tg.rata(), tg.rataMutlak(), tg.maks,
+                        matahari.rataMutlak(), matahari.maks, bulanS.rataMutlak(), bulanS.maks, ij.n, lintas);
+            std::printf("%-5s   height - true at the sun's centre on the airless horizon: mean %+.2f, |.| %.2f, largest %+.2f\n",
+                        kode, tgPusat.rata(), tgPusat.rataMutlak(), tgPusat.maks);
+        }
+    }
 
-    std::printf("\n4. Ephemeris, every month of 1400-1500 H (ER - sky; mean, mean |.|, largest)\n");
+    std::printf("\n5. Ephemeris, every month of 1400-1500 H (ER - sky; mean, mean |.|, largest)\n");
     std::printf("%-8s %-7s | ijtima' (min of time)   | sunset (min of time)    | height [35] (arcmin)    | "
                 "elongation (arcmin)     | months\n", "place", "");
     for (bool deltaT : {false, true}) {

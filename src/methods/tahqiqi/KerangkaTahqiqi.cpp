@@ -8,6 +8,7 @@
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "core/Maghrib.h"
 #include "core/Sesi.h"
 #include "methods/Lembar.h"
 #include "methods/Taadil.h"
@@ -198,9 +199,7 @@ void KerangkaTahqiqi::hitungThul() {
 void KerangkaTahqiqi::hitungGurub() {
     const double matahari = std::fmod(derajat(Muqowwam(2)) + 360.0, 360.0);
     const int d = static_cast<int>(matahari);
-    const Nilai tempat(" " + std::to_string(d / 30) + " " + std::to_string(d % 30));
-    std::string gurub, terbit;
-    const Waktu w = k_.kesimpulan.WaktuGurub(tempat, gurub, terbit);
+    const Waktu w = WaktuMaghrib(d, 0, k_.sesi.tempat).terbenam;
     jamGurub_ = w.jam();
     menitGurub_ = w.menit();
     Tabel& s = k_.koneksi.TQQSaah;
@@ -238,6 +237,7 @@ void KerangkaTahqiqi::Siapkan(int32_t tahun_, int16_t bulan) {
     }
     hitungHari(tahun_, bulan);
     hariLagi = 0;
+    hitungThul();
     hitungMuqowwam();
 }
 
@@ -247,7 +247,6 @@ void KerangkaTahqiqi::hitungMuqowwam() {
     for (size_t i = 2; i <= 6; ++i)
         Jumlah(i) = TambahNilai(JenisBusur, TandaIkut, data_.modus, TarikhMajmu(i), TarikhMabsut(i), Syahr(i), YaumTam(i));
     hitungTafawut();
-    hitungThul();
     for (size_t i = 2; i <= 6; ++i) Muqowwam(i) = tambah(tambah(Jumlah(i), Tafawut(i)), Thul(i));
     hitungGurub();
     Muqowwam(1) = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, Jumlah(1), Saah(1), Daqoiq(1));
@@ -354,11 +353,9 @@ HariTahqiqi KerangkaTahqiqi::hariHasil() {
     return h;
 }
 
-HasilHitung KerangkaTahqiqi::Hitung(const Permintaan& p) {
+void KerangkaTahqiqi::hitungTahap(int32_t tahun, int16_t bulan) {
     Kemajuan& maju = k_.kemajuan;
-    HasilHitung h;
-    maju.mulai(kLangkah);
-    Siapkan(p.tahun, p.bulan);
+    Siapkan(tahun, bulan);
     maju.langkah();
     HitungSyams();
     HitungQomar();
@@ -373,8 +370,21 @@ HasilHitung KerangkaTahqiqi::Hitung(const Permintaan& p) {
     HitungIjtimaJam();
     maju.langkah();
     HitungHilal();
-    tulisHasilTeks();
     maju.langkah();
+}
+
+std::optional<Nilai> KerangkaTahqiqi::AwalBulan(int32_t tahun, int16_t bulan) {
+    hitungTahap(tahun, bulan);
+    const HariTahqiqi h = hariHasil();
+    if (h.awal.kosongTeks()) return std::nullopt;
+    return h.awal;
+}
+
+HasilHitung KerangkaTahqiqi::Hitung(const Permintaan& p) {
+    Kemajuan& maju = k_.kemajuan;
+    HasilHitung h;
+    maju.mulai(kLangkah);
+    hitungTahap(p.tahun, p.bulan);
 
     BahanKesimpulanTahqiqi b;
     b.judul = k_.sesi.namaKitab;
@@ -390,6 +400,7 @@ HasilHitung KerangkaTahqiqi::Hitung(const Permintaan& p) {
     TulisKesimpulanTahqiqi(k_, b, h.kesimpulan, h.ringkasan);
     maju.langkah();
     if (p.lembar) {
+        tulisHasilTeks();
         ClsFlexGrid g(&h.lembarBaru(""));
         isiTabel(g);
         h.baris = baris();
@@ -415,7 +426,8 @@ void KerangkaTahqiqi::isiTabel(ClsFlexGrid& g) {
     for (size_t r = 0; r < enam.size(); ++r) {
         const int baris = 3 + static_cast<int>(r);
         const Baris<6>& b = *enam[r];
-        if (b(1).teks() != Tafawut(1).teks()) g.FlexData(b(1), baris, 47, {MedanHari, MedanPasaran, MedanJam, MedanMenit});
+        // The tafawut's first cell is its sign, written beside the label.
+        if (&b != &Tafawut) g.FlexData(b(1), baris, 47, {MedanHari, MedanPasaran, MedanJam, MedanMenit});
         for (size_t e = 0; e < 5; ++e) g.FlexData(b(e + 2), baris, 39 - 8 * static_cast<int>(e), {1, 2, 3, 4});
     }
     const std::initializer_list<int> lima = {1, 2, 3, 4, 5};

@@ -52,6 +52,8 @@ struct DataKitabTahqiqi {
 class KerangkaTahqiqi : public Modul {
 public:
     HasilHitung Hitung(const Permintaan& p) override;
+    // The first of the month by the reckoning stages alone, without the conclusion's words.
+    std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override;
 
     // The stages, in this order; each reads what the one before it wrote.
     void Siapkan(int32_t tahun, int16_t bulan);
@@ -89,7 +91,7 @@ public:
     virtual double tinggiHilal() const = 0;
     virtual double muktsHilal() const = 0;
     virtual double nurHilal() const = 0;
-    // The hilal's values as the sheet shows them.
+    // The hilal's values as the sheet shows them (a run without a sheet leaves them).
     void tulisHasilTeks();
 
 protected:
@@ -112,6 +114,8 @@ private:
     void bacaGerak(Baris<6>& baris, Tabel& t, int64_t kunci);
     void hitungHari(int32_t tahun, int16_t bulan);
     void hitungMuqowwam();
+    // The reckoning stages, from the years to the hilal.
+    void hitungTahap(int32_t tahun, int16_t bulan);
     void hitungTafawut();
     void hitungThul();
     void hitungGurub();
