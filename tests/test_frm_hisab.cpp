@@ -345,7 +345,7 @@ private slots:
         QVERIFY(!kunci.contains(lembar(n)->objectName()));
     }
 
-    void emptyYearIsRefusedWithTheBooksMessage() {
+    void emptyYearAndYearsBeyondTheBooksAreRefusedWithAMessage() {
         pilih("Pasuruan", "", 8);
         klikKitab("Sullam al-Nairoin");
         tungguSelesai();
@@ -358,6 +358,24 @@ private slots:
         QCOMPARE(tab()->count(), 0);
         kotak->button(QMessageBox::Ok)->click();
         QTRY_VERIFY(!uji::kotakTerbuka(*w));
+
+        // The books serve the years 1 to 3000 H: no Masehi year is shown for another, and a run
+        // or a batch says why it does nothing.
+        pilih("Pasuruan", "3001", 8);
+        QVERIFY(cari<QLineEdit>(*w, "RichTahunM")->text().isEmpty());
+        for (const char* perintah : {"mnuProsesIj|2", "mnuProsesAll"}) {
+            cari(*w, perintah)->trigger();
+            tungguSelesai();
+            QTRY_VERIFY((kotak = uji::kotakTerbuka(*w)));
+            QCOMPARE(kotak->windowTitle(), QString("Ojok kesusu.."));
+            QVERIFY2(kotak->text().contains("3001 H di luar jangkauan") && kotak->text().contains("1 sampai 3000"),
+                     qPrintable(kotak->text()));
+            kotak->button(QMessageBox::Ok)->click();
+            QTRY_VERIFY(!uji::kotakTerbuka(*w));
+        }
+        QCOMPARE(tab()->count(), 0);
+        pilih("Pasuruan", "3000", 8);
+        QVERIFY(!cari<QLineEdit>(*w, "RichTahunM")->text().isEmpty());
     }
 
     void stopAsksAndEndsATwelveMonthBatchBetweenRuns() {

@@ -89,6 +89,11 @@ TEST(Sheet, TheGridWritersSayWhatEachCellHolds) {
     // its end, behind the kasra: the text stays valid UTF-8 (a place named "Kec. -Desa").
     g.FlexNama("حساب -Desa", 3, 0, 7);
     EXPECT_EQ(s.sel(3, 0), "ِساب -Desaح");
+
+    // An Indonesian sheet reads from the left: a spreadsheet does not mirror it.
+    EXPECT_TRUE(s.dibacaDariKanan);
+    g.FlexSetting(2, 2, 0, 0, 0, false);
+    EXPECT_FALSE(s.dibacaDariKanan);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 
 #include "cli/Kalkulator.h"
 #include "cli/PerintahBatch.h"
+#include "cli/PerintahGerhana.h"
 #include "cli/PerintahHisab.h"
 #include "cli/PerintahTempat.h"
 #include "run/Workspace.h"
@@ -45,6 +46,11 @@ std::string periksaKitab(std::string_view v) {
     return {};
 }
 
+std::string periksaJenis(std::string_view v) {
+    if (v == "bulan" || v == "matahari") return {};
+    return "jenis \"" + std::string(v) + "\" tidak dikenal; pilihlah bulan atau matahari";
+}
+
 }  // namespace
 
 // The catalogue of options. A new option is one line here, and its name in the lines of the
@@ -72,6 +78,8 @@ const std::vector<Opsi>& DaftarOpsi() {
         {"--zona", "JAM", "zona waktu, mis. 7 untuk WIB"},
         {"--tinggi", "METER", "tinggi tempat di atas laut"},
         {"--arab", "TEKS", "nama tampilan (mis. dalam huruf Arab)"},
+        {"--jenis", "bulan|matahari", "gerhana bulan atau gerhana matahari", periksaJenis, "bulan"},
+        {"--sampai", "TAHUN", "tahun Hijriyah terakhir pencarian", periksaTahun},
     };
     return daftar;
 }
@@ -87,6 +95,11 @@ const std::vector<Perintah>& DaftarPerintah() {
          "ijtima' dan awal bulan menurut semua kitab, satu baris sekitab", perintahSemua},
         {"setahun", "", 0, 0, {{"--kitab"}, {"--tahun", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
          "dua belas bulan setahun menurut satu kitab (--kitab semua: menurut semua kitab)", perintahSetahun},
+        {"gerhana", "", 0, 0,
+         {{"--jenis"}, {"--kitab"}, {"--tahun", Wajib}, {"--sampai"}, {"--bulan"}, {"--markaz"}, {"--json"}},
+         "gerhana yang ditemukan kitab itu, satu per baris dengan waktu fasenya (--bulan: lembar kerja "
+         "dan kesimpulan gerhana bulan itu)",
+         perintahGerhana},
         {"tempat daftar", "", 0, 0, {}, "daftar tempat dan berkas yang dipakai", perintahTempatDaftar},
         {"tempat tambah", "NAMA", 1, 1,
          {{"--lintang", Wajib}, {"--bujur", Wajib}, {"--zona", Wajib}, {"--tinggi"}, {"--arab"}},

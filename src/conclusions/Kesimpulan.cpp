@@ -1,5 +1,6 @@
 #include "conclusions/Kesimpulan.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdio>
@@ -354,6 +355,129 @@ std::string ClsKesimpulan::baris(std::string_view nama, int lintangDerajat, int 
                            std::to_string(lintangMenit) + "'" + (tandaLintang != 0 ? " LU |" : " LS |"),
                            std::to_string(bujurDerajat) + "°",
                            std::to_string(bujurMenit) + "'" + (tandaBujur != 0 ? " BT" : " BB")}));
+}
+
+}  // namespace falak
+
+namespace falak {
+
+namespace {
+
+// The date value moved on by whole days: weekday and pasaran move with it.
+Nilai tambahHari(const Nilai& tanggal, int hari) {
+    const std::string d = std::to_string(hari);
+    const Nilai langkah = AlamahTarkh(3, {"0", "0", d, d, d, "0", "0", "0", "0"}, 1).value_or(Nilai());
+    return TambahNilai(JenisAlamahMasehi, TandaIkut, ModusBuruj, tanggal, langkah);
+}
+
+int hariPekan(const Nilai& v) {
+    const int h = AmbilTingkat(v, MedanHari);
+    return h == 0 ? 7 : h;
+}
+
+// Hours, minutes and seconds of a time: an alamah value by its clock fields, an arc value of
+// hours by Darojah and what follows.
+Waktu bacaJam(const Nilai& jam) {
+    if (jam.teks().size() > 20)
+        return Waktu::dari(AmbilTingkat(jam, MedanJam), AmbilTingkat(jam, MedanMenit), AmbilTingkat(jam, MedanDetik));
+    return Waktu::dari(AmbilTingkat(jam, MedanDarojah), AmbilTingkat(jam, MedanDaqiqoh), AmbilTingkat(jam, MedanTsaniyah));
+}
+
+std::string bagianHari(const std::string& jam) {
+    if (jam < "09.00") return "(Pagi)";
+    if (jam < "15.00") return "(Siang)";
+    if (jam < "18.00") return "(Sore)";
+    // Compared as texts: "24:00" takes every clock time that is left.
+    return jam < "24:00" ? "(Malam)" : "";
+}
+
+int menitKedalaman(const Nilai& v) { return AmbilTingkat(v, MedanDarojah) * 60 + AmbilTingkat(v, MedanDaqiqoh); }
+
+}  // namespace
+
+std::string ClsKesimpulan::UkuranGerhana(const Nilai& ukuran) {
+    if (AmbilTingkat(ukuran, MedanDarojah) >= 12) return "12 Ushbu' (Total)";
+    return NurHilal(ukuran);
+}
+
+std::string ClsKesimpulan::FullGerhanB(Nilai& tanggal, const Nilai& hariDihitung, const Nilai& jam,
+                                       int16_t& hariHijri) const {
+    const int dicari = hariPekan(hariDihitung);
+    Nilai hari = tanggal;
+    for (int i = 11; i <= 17; ++i) {
+        hari = tambahHari(tanggal, i);
+        hariHijri = static_cast<int16_t>(i);
+        if (hariPekan(hari) == dicari) {
+            hariHijri = static_cast<int16_t>(i + 1);
+            break;
+        }
+    }
+    tanggal = hari;
+    const int jamSaja = jam.teks().size() > 23 ? AmbilTingkat(jam, MedanJam) : AmbilTingkat(jam, MedanDarojah);
+    const std::string baris = kBarisBulan[static_cast<size_t>(sesi_.barisBulan % 12)];
+    const std::string bulan = rapikan(baris.size() > 4 ? baris.substr(4) : std::string());
+    return rapikan(gabung({NamaHari(AmbilTingkat(tanggal, MedanHari), std::to_string(jamSaja + 18), false),
+                           NamaPas(AmbilTingkat(tanggal, MedanPasaran)) + ",", std::to_string(hariHijri), bulan,
+                           sesi_.tahunHijri + " H./", std::to_string(AmbilTingkat(tanggal, MedanTanggal)),
+                           ManaBln(AmbilTingkat(tanggal, MedanBulan)),
+                           std::to_string(AmbilTingkat(tanggal, MedanTahun)) + " M."}));
+}
+
+std::string ClsKesimpulan::FullGerhanM(Nilai& tanggal, const Nilai& jam) const {
+    // The row of the run's month in the list; a month of 0 reads the last row.
+    const int bulanRun = AmbilTingkat(sesi_.tanggalPilihan, MedanBulan);
+    const std::string baris = kBarisBulan[static_cast<size_t>(bulanRun == 0 ? 11 : std::clamp(bulanRun - 1, 0, 11))];
+    const std::string bulan = rapikan(baris.size() > 4 ? baris.substr(4) : std::string());
+    return rapikan(gabung({NamaHari(AmbilTingkat(tanggal, MedanHari),
+                                    std::to_string(AmbilTingkat(jam, MedanDarojah) + 18), true),
+                           NamaPas(AmbilTingkat(tanggal, MedanPasaran)) + ",", "29", bulan, sesi_.tahunHijri + " H./",
+                           std::to_string(AmbilTingkat(tanggal, MedanTanggal)),
+                           ManaBln(AmbilTingkat(tanggal, MedanBulan)),
+                           std::to_string(AmbilTingkat(tanggal, MedanTahun)) + " M."}));
+}
+
+std::string ClsKesimpulan::FormatJam(const Nilai& jam, const Nilai& tanggal, bool lengkap, const Nilai& tempat,
+                                     const Nilai& ukuran, bool zonaKedua, bool akhir) const {
+    const Waktu w = bacaJam(jam);
+    std::string butir0 = w.format("hh.mm");
+    if (!lengkap) return butir0;
+    std::string butir2 = butir0;
+    const Waktu zona = keZona(AmbilTingkat(tanggal, MedanBulan), AmbilTingkat(tanggal, MedanTanggal), w);
+    // The writers of the methods expect the two columns to change places with the flag.
+    if (zonaKedua) butir2 = zona.format("hh.mm");
+    else butir0 = zona.format("hh.mm");
+
+    std::string sisi;
+    const bool total = AmbilTingkat(ukuran, MedanDarojah) == 12;
+    const bool selatan = AmbilTingkat(tempat, MedanBuruj) == 6 || AmbilTingkat(tempat, MedanBuruj) == 11;
+    if (!tempat.kosongTeks()) sisi = total ? "(dr Timur)" : (selatan ? "(dr Selatan t'gara)" : "(dr Utara t'laut)");
+    if (akhir) sisi = total ? "(dr Barat)" : (selatan ? "(dr Selatan)" : "(dr Utara)");
+    return rapikan(gabung({butir0, "WIS,", butir2, rapikan(kataZona()), bagianHari(butir0), sisi}));
+}
+
+std::string ClsKesimpulan::WarnaGerhana(const Nilai& v) {
+    const int n = menitKedalaman(v);
+    if (n < 11) return "Hitam";
+    if (n < 21) return "Hitam ke hijau - hijauan";
+    if (n < 31) return "Hitam ke merah - merahan";
+    if (n < 41) return "Hitam ke kuning - kuningan";
+    if (n < 51) return "Coklat";
+    return "Kelabu";
+}
+
+std::string ClsKesimpulan::WarnaGerhanaM(const Nilai& v) {
+    static constexpr std::pair<int, const char*> kWarna[] = {
+        {20, "Kuning keputi - putihan"},    {60, "Kuning"},
+        {95, "Kelabu ke biru - biruan"},    {130, "Kelabu"},
+        {220, "Coklat agak kelabu"},        {280, "Coklat"},
+        {350, "Coklat ke kuning - kuningan"}, {420, "Coklat ke merah - merahan"},
+        {500, "kelabu ke coklat - coklatan"}, {580, "Kelabu ke hitam - hitaman"},
+        {650, "Hitam"},                     {720, "Sangat hitam"},
+    };
+    const int n = menitKedalaman(v);
+    for (const auto& [batas, warna] : kWarna)
+        if (n <= batas) return warna;
+    return {};
 }
 
 }  // namespace falak

@@ -58,6 +58,29 @@ public:
     Waktu WaktuGurub(const Nilai& matahari, std::string& gurub, std::string& terbit);
     static std::string NurHilal(const Nilai& nur);
 
+    // Eclipse conclusions.
+    //
+    // The size in fingers: twelve and more is a total eclipse, else the band of the hilal's light.
+    static std::string UkuranGerhana(const Nilai& ukuran);
+    // The date line of a lunar eclipse. `tanggal` comes in as the first of the Hijri month and
+    // leaves as the day, from the 12th to the 18th, that falls on the weekday of `hariDihitung`
+    // ; hariHijri is left as that day of the month. When none does, the date
+    // of the 18th with the day 17, as the search leaves them. The time `jam`
+    // (hours from sunset) makes an evening read as the eve of that day.
+    std::string FullGerhanB(Nilai& tanggal, const Nilai& hariDihitung, const Nilai& jam, int16_t& hariHijri) const;
+    // The date line of a solar eclipse: the date of the ijtima', written the 29th of the run's month.
+    std::string FullGerhanM(Nilai& tanggal, const Nilai& jam) const;
+    // The clock line of a phase: the time (an alamah value or an arc value of hours) in local
+    // apparent time and in the place's zone for the date's month and day, the part of the day,
+    // and with a latitude value `tempat` the side from which the body is touched (`akhir`: the
+    // side it leaves). With `lengkap` clear only "hh.mm"; with `zonaKedua` clear the two times
+    // change places under their labels.
+    std::string FormatJam(const Nilai& jam, const Nilai& tanggal, bool lengkap, const Nilai& tempat,
+                          const Nilai& ukuran, bool zonaKedua, bool akhir) const;
+    // The colour of the moon and of the sun in eclipse, by degrees and minutes of the value.
+    static std::string WarnaGerhana(const Nilai& v);
+    static std::string WarnaGerhanaM(const Nilai& v);
+
     // A local apparent time (WIS) moved to the place's zone for a civil month and day.
     Waktu keZona(int bulan, int hari, Waktu waktu) const;
     // " WIB", " WITA", " WIT" or " W. Setempat" by the place's zone.

@@ -33,6 +33,8 @@ void ClsFlexGrid::FlexSetting(int baris, int kolom, int lebarKolom, int tinggiBa
     lembar_->tinggiBaris = tinggiBaris;
     lembar_->lebarLabel = lebarLabel;
     lembar_->arab = fontArab;
+    // An Arabic frame is read from the right, as the books are; an Indonesian one from the left.
+    lembar_->dibacaDariKanan = fontArab;
     lembar_->font = fontArab ? kFontArab : kFontLatin;
 }
 

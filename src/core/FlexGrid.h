@@ -20,7 +20,8 @@ public:
     void pilih(Sheet* lembar) { lembar_ = lembar; }
     Sheet* lembar() const { return lembar_; }
 
-    // Sets the grid up for a sheet: size, cleared, with its size hints and font.
+    // Sets the grid up for a sheet: size, cleared, with its size hints and font; a sheet with
+    // the Arabic font reads from the right.
     void FlexSetting(int baris, int kolom, int lebarKolom, int tinggiBaris, int lebarLabel, bool fontArab);
 
     // One frame cell, merged from kolom1 to kolom2 when they differ. On an Arabic sheet a

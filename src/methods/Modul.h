@@ -28,6 +28,18 @@ struct Ringkasan {
     Nilai awalBulan;           // date value of the first of the month
 };
 
+// What an eclipse run concludes, for the lines of a search over years: the civil day, the
+// phases as the conclusion words them ("hh.mm WIS hh.mm WIB ..."), the size, and the middle
+// and the size as numbers for those who compare them.
+struct RingkasanGerhana {
+    Nilai tanggal;                      // date value of the day of the middle
+    std::string awal, tengah, akhir;
+    std::string awalTotal, akhirTotal;  // empty without a total phase
+    std::string besar;
+    double jamTengah = 0;               // the middle, hours of local apparent time at the place
+    double ashobi = 0;                  // fingers
+};
+
 // What the driver asks of a module.
 struct Permintaan {
     int32_t tahun = 0;
@@ -49,6 +61,7 @@ struct HasilHitung {
     std::vector<BarisTercatat> baris;     // every row of the run, named as the book names it
     Ringkasan ringkasan;
     std::optional<LembarRumus> rumus;     // the formula sheet of a precise book's run
+    std::optional<RingkasanGerhana> gerhana;  // an eclipse run that found one
 
     // A new sheet at the end of the list, to be painted.
     Sheet& lembarBaru(std::string awalan, std::string judul = {}) {

@@ -1,5 +1,7 @@
 #include "run/Registri.h"
 
+#include "eclipse/lunar/KhusufSullam.h"
+#include "eclipse/solar/KusufSullam.h"
 #include "methods/tahqiqi/Ephemeris.h"
 #include "methods/taqribi/FaidlulKarim.h"
 #include "methods/taqribi/FathurRouf.h"
@@ -65,7 +67,8 @@ const std::vector<EntriModul>& DaftarModul() {
         {"IM", Ij, 45, "IjIM_", "Irsyadu al-Murid", "Irsyadu al-Murid", Tahqiqi, {}, nullptr},
         {"ER", Ij, 48, "IjER_", "Ephemeris", "Ephemeris", Tahqiqi, tabelBulan({"ERBumi", "Refraksi", "TQQRumuz"}),
          buat<Ephemeris>},
-        {"SN", Hs, 3, "HsSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi, {}, nullptr},
+        {"SN", Hs, 3, "HsSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi,
+         tabelBulan({"TRBSyahru", "TRBTaadil"}), buat<KhusufSullam>},
         {"FR", Hs, 7, "HsFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},
         {"IDB1", Hs, 12, "HsIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi, {},
          nullptr},
@@ -79,7 +82,8 @@ const std::vector<EntriModul>& DaftarModul() {
         {"NA", Hs, 42, "HsNA_", "Nuru al-Anwar", "Nuru al-Anwar", Tahqiqi, {}, nullptr},
         {"IM", Hs, 46, "HsIM_", "Irsyadu al-Murid", "Irsyadu al-Murid", Tahqiqi, {}, nullptr},
         {"ER", Hs, 49, "HsER_", "Ephemeris", "Ephemeris", Tahqiqi, {}, nullptr},
-        {"SN", Kf, 4, "KfSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi, {}, nullptr},
+        {"SN", Kf, 4, "KfSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi,
+         tabelBulan({"TRBSyahru", "TRBTaadil", "TQQTaadil"}), buat<KusufSullam>},
         {"FR", Kf, 8, "KfFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},
         {"IDB1", Kf, 13, "KfIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi, {},
          nullptr},

@@ -5,6 +5,8 @@
 
 #include "core/Angka.h"
 #include "core/Daerah.h"
+#include "core/Koneksi.h"
+#include "eclipse/solar/KerangkaKusuf.h"
 
 namespace falak {
 
@@ -105,7 +107,7 @@ Workspace::HasilProses Workspace::mnuProsesIjSub(const std::string& kodeKitab, c
     if (!m) return {nullptr, belumTersedia(entri, kodeKitab)};
     if (auto pesan = periksaTabel(*entri)) return {nullptr, pesan};
     pilihTempat(namaTempat);
-    return {&Proses(*entri, *m, BulatGenap32(ValAngka(tahunTeks)).value_or(0), bulan), std::nullopt};
+    return {Proses(*entri, *m, BulatGenap32(ValAngka(tahunTeks)).value_or(0), bulan), std::nullopt};
 }
 
 Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriModul*, int>>& runs,
@@ -133,13 +135,13 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriMo
         }
         Modul& m = *modul(*entri);
         if (keluaran == Keluaran::Lembar) {
-            LembarKerja& tab = Proses(*entri, m, tahun, bulan);
-            hasil.lembar.push_back(&tab);
-            hasil.ringkas.push_back({entri, tahun, bulan, tab.kesimpulan, tab.ringkasan});
+            LembarKerja* tab = Proses(*entri, m, tahun, bulan);
+            hasil.lembar.push_back(tab);
+            hasil.ringkas.push_back({entri, tahun, bulan, tab->kesimpulan, tab->ringkasan, std::nullopt});
         } else {
             siapkan(*entri, tahun, bulan);
             HasilHitung h = m.Hitung({tahun, static_cast<int16_t>(bulan), false});
-            hasil.ringkas.push_back({entri, tahun, bulan, std::move(h.kesimpulan), std::move(h.ringkasan)});
+            hasil.ringkas.push_back({entri, tahun, bulan, std::move(h.kesimpulan), std::move(h.ringkasan), std::nullopt});
         }
         kemajuan.maju();
     }
@@ -183,10 +185,13 @@ void Workspace::siapkan(const EntriModul& entri, int32_t tahun, int bulan) {
     sesi.namaKitab = std::string(entri.nama);
 }
 
-LembarKerja& Workspace::Proses(const EntriModul& entri, Modul& m, int32_t tahun, int bulan) {
+LembarKerja* Workspace::Proses(const EntriModul& entri, Modul& m, int32_t tahun, int bulan) {
     siapkan(entri, tahun, bulan);
     HasilHitung h = m.Hitung({tahun, static_cast<int16_t>(bulan), true});
-    const std::string judul = "Hisab Awal Bulan " + std::to_string(tahun) + " H. " + std::to_string(bulan);
+    if (h.lembar.empty()) return nullptr;
+    const std::string jenis = entri.garapan == Garapan::Ij ? "Hisab Awal Bulan"
+                                                            : std::string(NamaKelompok(entri.garapan, entri.aliran));
+    const std::string judul = jenis + " " + std::to_string(tahun) + " H. " + std::to_string(bulan);
     const size_t pertama = lembar.size();
     ++nomorLembar_;
     for (LembarHasil& l : h.lembar) {
@@ -198,11 +203,79 @@ LembarKerja& Workspace::Proses(const EntriModul& entri, Modul& m, int32_t tahun,
         tab->kesimpulan = h.kesimpulan;
         tab->baris = h.baris;
         tab->ringkasan = h.ringkasan;
+        tab->gerhana = h.gerhana;
         lembar.push_back(std::move(tab));
     }
     // The formula sheet stays under the key of the run's first tab.
     if (h.rumus && pertama < lembar.size()) rumus.tambah(lembar[pertama]->kunci, std::move(*h.rumus));
-    return *lembar.at(pertama);
+    return lembar.at(pertama).get();
+}
+
+std::optional<Workspace::Pesan> Workspace::tolakLintang(Garapan jenis) const {
+    if (jenis != Garapan::Kf) return std::nullopt;
+    if (auto teks = PeriksaLintang(sesi.tempat)) return Pesan{"Sepurane..", *teks};
+    return std::nullopt;
+}
+
+Workspace::HasilProses Workspace::mnuProsesGerhana(Garapan jenis, const std::string& kodeKitab,
+                                                   const std::string& tahunTeks, int bulan,
+                                                   const std::string& namaTempat) {
+    if (auto pesan = periksaTahun(tahunTeks)) return {nullptr, pesan};
+    const EntriModul* entri = CariModul(kodeKitab, jenis);
+    Modul* m = entri ? modul(*entri) : nullptr;
+    if (!m) return {nullptr, belumTersedia(entri, kodeKitab)};
+    if (auto pesan = periksaTabel(*entri)) return {nullptr, pesan};
+    pilihTempat(namaTempat);
+    if (auto pesan = tolakLintang(jenis)) return {nullptr, pesan};
+    LembarKerja* tab = Proses(*entri, *m, BulatGenap32(ValAngka(tahunTeks)).value_or(0), bulan);
+    if (tab) return {tab, std::nullopt};
+    const std::string benda = jenis == Garapan::Hs ? "gerhana bulan" : "gerhana matahari";
+    return {nullptr, Pesan{"Tidak ada gerhana", "Menurut kitab " + std::string(entri->nama) + " tidak ada " + benda +
+                                                    " pada bulan " + std::to_string(bulan) + " tahun " + tahunTeks +
+                                                    " H."}};
+}
+
+Workspace::HasilBatch Workspace::cariGerhana(Garapan jenis, const std::string& kodeKitab,
+                                             const std::string& tahunTeks, int32_t tahunAkhir,
+                                             const std::string& namaTempat, Keluaran keluaran) {
+    HasilBatch hasil;
+    if (auto pesan = periksaTahun(tahunTeks)) {
+        hasil.pesan = pesan;
+        return hasil;
+    }
+    const EntriModul* entri = CariModul(kodeKitab, jenis);
+    Modul* m = entri ? modul(*entri) : nullptr;
+    if (!m) {
+        hasil.pesan = belumTersedia(entri, kodeKitab);
+        return hasil;
+    }
+    if ((hasil.pesan = periksaTabel(*entri))) return hasil;
+    pilihTempat(namaTempat);
+    if ((hasil.pesan = tolakLintang(jenis))) return hasil;
+    const int32_t awal = BulatGenap32(ValAngka(tahunTeks)).value_or(0);
+    kemajuan.berhenti = false;
+    kemajuan.mulaiBatch(static_cast<int>(std::max(0, tahunAkhir - awal + 1) * 12));
+    kemajuan.batch = true;
+    for (int32_t tahun = awal; tahun <= tahunAkhir && !hasil.dihentikan; ++tahun) {
+        for (int bulan = 1; bulan <= 12; ++bulan) {
+            if (kemajuan.berhenti) {
+                hasil.dihentikan = true;
+                break;
+            }
+            if (keluaran == Keluaran::Lembar) {
+                if (LembarKerja* tab = Proses(*entri, *m, tahun, bulan)) hasil.lembar.push_back(tab);
+            } else {
+                siapkan(*entri, tahun, bulan);
+                HasilHitung h = m->Hitung({tahun, static_cast<int16_t>(bulan), false});
+                if (h.gerhana)
+                    hasil.ringkas.push_back({entri, tahun, bulan, std::move(h.kesimpulan), std::move(h.ringkasan),
+                                             std::move(h.gerhana)});
+            }
+            kemajuan.maju();
+        }
+    }
+    kemajuan.batch = false;
+    return hasil;
 }
 
 }  // namespace falak

@@ -30,6 +30,7 @@ struct LembarKerja {
     std::vector<std::string> kesimpulan;  // the conclusion lines, the heading first
     std::vector<BarisTercatat> baris;     // every row of the run
     Ringkasan ringkasan;                  // its gist, for the lines of a batch
+    std::optional<RingkasanGerhana> gerhana;  // the eclipse an eclipse run found
 };
 
 class Workspace {
@@ -69,6 +70,7 @@ public:
         int bulan = 0;
         std::vector<std::string> kesimpulan;
         Ringkasan ringkasan;
+        std::optional<RingkasanGerhana> gerhana;
     };
     struct HasilBatch {
         std::vector<LembarKerja*> lembar;
@@ -82,6 +84,15 @@ public:
                              Keluaran keluaran = Keluaran::Lembar);
     HasilBatch duaBelasBulanSemuaKitab(const std::string& tahunTeks, const std::string& namaTempat,
                                        Keluaran keluaran = Keluaran::Lembar);
+
+    // The eclipses: one month of a book's lunar (Hs) or solar (Kf) eclipse module, with a
+    // message when the month holds none; and the search of every month of the years from
+    // tahunTeks to tahunAkhir ("Beberapa Tahun"), which keeps the months that hold one. The
+    // progress bar moves once a month; the stop flag ends the search between two months.
+    HasilProses mnuProsesGerhana(Garapan jenis, const std::string& kodeKitab, const std::string& tahunTeks, int bulan,
+                                 const std::string& namaTempat);
+    HasilBatch cariGerhana(Garapan jenis, const std::string& kodeKitab, const std::string& tahunTeks,
+                           int32_t tahunAkhir, const std::string& namaTempat, Keluaran keluaran = Keluaran::Ringkas);
 
     // Every month module of the registry, available or not, in the order of the tree.
     static std::vector<const EntriModul*> kitabTerdaftar();
@@ -122,9 +133,11 @@ public:
     DaftarRumus rumus;  // the formula sheets of the precise books' runs, by tab
 
 private:
+    // The solar eclipse's refusal of a place whose latitude its tables do not hold.
+    std::optional<Pesan> tolakLintang(Garapan jenis) const;
     // Proses: one run of the module with its sheets, which become new work sheets; the first
-    // of them is returned.
-    LembarKerja& Proses(const EntriModul& entri, Modul& m, int32_t tahun, int bulan);
+    // of them is returned, none when the run made no sheet (a month without an eclipse).
+    LembarKerja* Proses(const EntriModul& entri, Modul& m, int32_t tahun, int bulan);
     // The run state that Proses sets before a run: the chosen date, the month row, the sheet.
     void siapkan(const EntriModul& entri, int32_t tahun, int bulan);
     // Why the module cannot run: a table it reads is missing, empty or holds a bad cell. Each

@@ -305,7 +305,7 @@ void FrmHisab::konversiTahun() {
     if (pekerja_->sibuk()) return;
     const std::string teks = tahunTeks();
     const auto tahun = BulatGenap32(ValAngka(teks));
-    if (teks.empty() || !tahun) {
+    if (teks.empty() || !tahun || *tahun < Workspace::kTahunAwal || *tahun > Workspace::kTahunAkhir) {
         tahunM_->clear();
         return;
     }

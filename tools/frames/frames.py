@@ -222,6 +222,109 @@ def tahqiqi(hasil):
     return f
 
 
+def khusuf_sullam():
+    """Sullam al-Nairoin's lunar eclipse: a grid of 58 rows by 40; the values written by the run
+    at the columns below (the right block at 37, the look-ups at 19 and at 9)."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    # The last cell is the auj, as in the book's month reckoning.
+    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", "الأوج"])
+    kanan = [
+        "تعديل الخاصة", "تعديل المركز", "المجموع", "الحاصل", "تعديل المركز", "تعديل القمر",
+        "المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس", "تقويم القمر",
+        "تعديل القمر", "دقائق تعديل الأيام", "الباقي", "حصة الساعة", "ساعات البعد",
+        "العلامة", "ساعات البعد", "الاستقبال بالمركز", "الحصة", "دقائق الحصة", "حصة الساعة", "ساعات الحصة",
+        "الاستقبال", "الاستقبال المعدل", "فضل الطولين", "وسط الخسوف ببلد",
+        "ساعات البعد", "الحاصل", "تعديل المركز", "المجموع", "الحصة", "المجموع", "الحصة المعدلة",
+        "ساعات البعد", "الحاصل", "الخاصة", "الخاصة المعدلة",
+        "وسط الخسوف", "نصف مدة الخسوف", "أول الخسوف", "آخر الخسوف", "مدة الخسوف",
+        "وسط الخسوف", "نصف مدة المكث", "أول المكث", "آخر المكث", "مدة المكث",
+    ]  # fmt: skip
+    for i, teks in enumerate(kanan):
+        label(teks, 8 + i, 38)
+    lima = ["المدخل", "السطر", "السطر التالي", "الفضل", "المعدل"]
+    blok = [(8, "تعديل الخاصة", 11, 19, 20, 27), (8, "تعديل المركز", 1, 9, 10, 10),
+            (16, "حصة الساعة", 11, 19, 20, 27), (16, "دقائق تعديل الأيام", 1, 9, 10, 10),
+            (24, "عرض القمر", 11, 19, 20, 27), (24, "العرض المعدل", 1, 9, 10, 10),
+            (32, "البهت", 11, 19, 20, 27)]
+    for baris, judul, k1, k2, l1, l2 in blok:
+        label(judul, baris, k1, k2)
+        for i, teks in enumerate(lima):
+            label(teks, baris + 1 + i, l1, l2)
+    # The double look-ups: two entries and their term in the latitude, the value at the row of
+    # the daily motion, the same one row on, their difference, its term and the result.
+    ganda = ["السطر", "السطر التالي", "الفضل", "المعدل", "السطر الثاني", "التالي", "الفضل", "المعدل",
+             "الفضل بين المعدلين", "الفضل", "الحاصل"]
+    for baris, judul, k1, k2, l1, l2 in [(40, "الأصابع", 11, 19, 20, 27), (32, "نصف مدة الخسوف", 1, 9, 10, 10),
+                                         (46, "نصف مدة المكث", 1, 9, 10, 10)]:
+        label(judul, baris, k1, k2)
+        for i, teks in enumerate(ganda):
+            label(teks, baris + 1 + i, l1, l2)
+    return f
+
+
+def kusuf_sullam():
+    """Sullam al-Nairoin's solar eclipse: a grid of 47 rows by 40; the run writes its right
+    block at column 37, the place's rows at 19 and the double look-ups at 9."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", "الأوج"])
+    kanan = [
+        "تعديل الخاصة", "تعديل المركز", "المجموع", "الحاصل", "تعديل المركز", "تعديل القمر",
+        "المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس",
+        "تعديل القمر", "دقائق تعديل الأيام", "الباقي", "حصة الساعة", "ساعات البعد",
+        "العلامة", "ساعات البعد", "الاجتماع بالمركز", "فضل الطولين", "الاجتماع ببلد",
+        "ساعات البعد", "الحاصل", "تعديل المركز", "المجموع", "الحصة", "المجموع", "الحصة المعدلة",
+        "ساعات البعد", "الحاصل", "الخاصة", "الخاصة المعدلة",
+        "وسط الكسوف", "أول الكسوف", "آخر الكسوف", "مدة الكسوف",
+    ]  # fmt: skip
+    tengah = [
+        "نصف النهار", "ساعة الاجتماع", "فضل الدائر", "الدائر", "تقويم الشمس", "وسط السماء", "الدائر",
+        "مطالع وسط السماء",
+        "تقويم الشمس", "وسط السماء", "البعد", "الجيب",
+        "اختلاف الطول", "الحاصل", "حصة الساعة", "تعديل الوقت", "الاجتماع", "الاجتماع المرئي",
+        "نصف النهار", "الاجتماع المرئي", "فضل الدائر", "الدائر", "تقويم الشمس", "وسط السماء",
+        "الميل", "الإقليم", "اختلاف الطول", "الميل", "الإقليم", "اختلاف الطول",
+        "الحصة المعدلة", "اختلاف الطول", "الحصة المرئية", "العرض المرئي",
+        "مكث الكسوف", "أول المكث", "آخر المكث", "مدة المكث",
+    ]  # fmt: skip
+    for i, teks in enumerate(kanan):
+        label(teks, 8 + i, 38)
+    for i, teks in enumerate(tengah):
+        label(teks, 8 + i, 20, 27)
+    ganda = ["السطر التالي", "الفضل", "المعدل", "السطر الثاني", "التالي", "الفضل", "المعدل",
+             "الفضل بين المعدلين", "الفضل", "الحاصل", "العرض المرئي", "البهت"]
+    for awal, judul in [(8, "الأصابع"), (21, "نصف مدة الكسوف"), (34, "نصف مدة المكث")]:
+        for i, teks in enumerate([judul] + ganda):
+            label(teks, awal + i, 10)
+    return f
+
+
+def koreksi_kusuf():
+    """The sheet of the solar eclipse's worked look-ups: one row a look-up, its five lines side
+    by side from the right, eight columns each (Buruj, Darajah, Daqiqah, Tsaniyah)."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    label("تعديلات الكسوف", 0, 0, 40)
+    for i, teks in enumerate(["المدخل", "السطر", "السطر التالي", "الفضل", "المعدل"]):
+        label(teks, 1, 33 - 8 * i, 39 - 8 * i)
+    for i, teks in enumerate(["تعديل الخاصة", "تعديل المركز", "حصة الساعة", "دقائق تعديل الأيام", "البهت",
+                              "المطالع", "مطالع وسط السماء", "الميل", "الإقليم", "اختلاف الطول", "الجيب",
+                              "الميل الثاني", "الإقليم الثاني", "اختلاف الطول الثاني", "اختلاف العرض",
+                              "عرض القمر"]):
+        label(teks, 2 + i, 40)
+    return f
+
+
 # The labels of the conclusion lines, read by position (the line writers name the position).
 LABEL = [
     "Awal bulan sesudah ",        # 0  first of the month, after the chosen month's name
@@ -304,6 +407,9 @@ def main():
         "KW1": fathur(sel=4, latitude=False),
         "FK": fathur(waktu=True),
         "SH": syamsul_hilal(),
+        "SNGB": khusuf_sullam(),
+        "SNGM": kusuf_sullam(),
+        "SNTK": koreksi_kusuf(),
         "BM": tahqiqi(HASIL_BM),
         "NA": tahqiqi(HASIL_NA),
         "ER": ephemeris(),

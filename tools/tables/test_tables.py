@@ -111,8 +111,11 @@ class EquationTables(unittest.TestCase):
     by_key = {int(r["Cari"]): r for r in rows}
 
     def test_keys_in_order_and_each_code_only_where_it_has_rows(self):
-        self.assertEqual([int(r["Cari"]) for r in self.rows], list(range(0, 371)))
+        # Beyond the 370 keys of these columns stand the eclipse rows (gerhana.py).
+        self.assertEqual([int(r["Cari"]) for r in self.rows][:371], list(range(0, 371)))
         for key, r in self.by_key.items():
+            if key > 370:
+                continue
             degree_row = 1 <= key <= 360
             self.assertEqual(r["tdKsJah"] != "", degree_row, key)
             self.assertEqual(r["ArQoh"] != "", degree_row, key)

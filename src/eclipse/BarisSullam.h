@@ -1,0 +1,34 @@
+// The rows of years and month on which Sullam al-Nairoin works its eclipses: groups of ten
+// years from a base, the single years, and the month, each with the alamah, the Hishshoh, the
+// Khossyoh, the Markaz and the auj.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <span>
+
+#include "core/Nilai.h"
+#include "methods/Konteks.h"
+
+namespace falak {
+
+// The split of the year: groups of ten (one more than the whole decades from year 10 on), the
+// multiplier of the group row, the single years, and whether the group row adds, adds
+// nothing (years 1 to 9) or takes off (year 0 and before).
+struct BagiTahunSullam {
+    enum class Langkah { Tambah, Nol, Kurang };
+    int32_t dawr = 0;
+    int32_t pengali = 0;
+    int16_t sisa = 0;
+    Langkah langkah = Langkah::Tambah;
+};
+BagiTahunSullam BagiTahun(int32_t tahun);
+
+// Majmu = base +/- the group row times the multiplier, Mabsut the single years, Syahr the
+// month (zero for month 1, which reads no table; a missing row leaves the former cells) and
+// Jumlah their sum.
+void HitungBarisSullam(Konteks& k, const BagiTahunSullam& bagi, int16_t bulan, const std::array<Nilai, 5>& mabda,
+                       std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut, std::span<Nilai, 5> syahr,
+                       std::span<Nilai, 5> jumlah);
+
+}  // namespace falak

@@ -1,0 +1,316 @@
+#include "eclipse/lunar/KerangkaKhusuf.h"
+
+#include <string>
+
+#include "conclusions/Kesimpulan.h"
+#include "core/FlexGrid.h"
+#include "core/FungsHisab.h"
+#include "core/Koneksi.h"
+#include "core/Sesi.h"
+#include "methods/LangkahTaqribi.h"
+#include "methods/Lembar.h"
+#include "methods/Taadil.h"
+#include "methods/taqribi/FathurRouf.h"
+
+namespace falak {
+
+namespace {
+
+constexpr int kLangkah = 10;  // steps of the progress bar
+
+Nilai busur(int64_t b, int64_t d, int64_t m, int64_t s = 0) { return DlorbuSittin(b, d, m, s, 0, 1, ModusBuruj); }
+
+Nilai tambah(const Nilai& a, const Nilai& b) { return TambahNilai(JenisBusur, TandaIkut, ModusBuruj, a, b); }
+Nilai kurang(const Nilai& a, const Nilai& b) { return KurangNilai(JenisBusur, TandaIkut, ModusBuruj, a, b); }
+Nilai kali(const Nilai& a, const Nilai& b) { return KaliNilai(JenisBusur, TandaIkut, ModusBuruj, a, b).value_or(Nilai()); }
+Nilai tambahAlamah(const Nilai& a, const Nilai& b) { return TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, a, b); }
+Nilai kurangAlamah(const Nilai& a, const Nilai& b) { return KurangNilai(JenisAlamah, TandaIkut, ModusBuruj, a, b); }
+
+bool burujSebelumSimpul(const Nilai& v) {
+    const int b = AmbilTingkat(v, MedanBuruj);
+    return b == 5 || b == 11;
+}
+
+Nilai alamahNol() { return AlamahTarkh(JenisAlamah, MedanAlamah{}, 1); }
+
+// A time of the alamah clock (hours from sunset) as the civil clock reads it.
+Nilai jamSipil(const Nilai& alamah) {
+    return tambahAlamah(alamah, AlamahTarkh(JenisAlamah, MedanAlamah{0, 0, 0, 0, 0, 18, 0, 0, 0}, 1));
+}
+
+// The colour follows how much of the disc is covered: at most the whole of it, twelve fingers,
+// however deep the moon stands in the shadow.
+Nilai ditutup(const Nilai& ashobi) {
+    return AmbilTingkat(ashobi, MedanDarojah) >= 12 ? busur(0, 12, 0) : ashobi;
+}
+
+double jamDesimal(const Nilai& alamah) {
+    return AmbilTingkat(alamah, MedanJam) + AmbilTingkat(alamah, MedanMenit) / 60.0 +
+           AmbilTingkat(alamah, MedanDetik) / 3600.0;
+}
+
+}  // namespace
+
+KerangkaKhusuf::KerangkaKhusuf(Konteks k, const DataKhusuf& data)
+    : k_(k), data_(data), fathur_(std::make_unique<FathurRouf>(k)) {}
+
+KerangkaKhusuf::~KerangkaKhusuf() = default;
+
+bool KerangkaKhusuf::UjiHishshoh(const Nilai& hishshoh) {
+    const int b = AmbilTingkat(hishshoh, MedanBuruj);
+    const int d = AmbilTingkat(hishshoh, MedanDarojah);
+    return ((b == 0 || b == 6 || b == 12) && d <= 12) || ((b == 5 || b == 11) && d >= 18);
+}
+
+bool KerangkaKhusuf::UjiMalam(const Nilai& awal, const Nilai& akhir) {
+    // The alamah clock counts hours 13 to 23 as day.
+    const auto malam = [](const Nilai& v) {
+        const int jam = AmbilTingkat(v, MedanJam);
+        return jam < 13 || jam >= 24;
+    };
+    return malam(awal) || malam(akhir);
+}
+
+void KerangkaKhusuf::TaadilKhusuf() {
+    ClsTaadil& t = k_.taadil;
+    t.TaadilBaris(HsTdlKs.semua(), 1, HsJumlah(3), 1, false);
+    t.TaadilBaris(HsTdlMr.semua(), 2, HsJumlah(4), 1, false);
+    t.TaadilBaris(HsTdlAr.semua(), 3, HsJumlah(2), 1, false);
+    t.TaadilBaris(HsTdlHs.semua(), kodeTdlHs(), HsJumlah(3), 5, false);
+}
+
+void KerangkaKhusuf::QomarKhusuf() {
+    HsQomar(1) = HsTdlKs(5);
+    HsQomar(2) = HsTdlMr(5);
+    HsQomar(3) = tambah(HsQomar(1), HsQomar(2));
+    HsQomar(4) = kali(HsQomar(3), busur(0, 0, 5));
+    HsQomar(5) = HsTdlMr(5);
+    HsQomar(6) = tambah(HsQomar(4), HsQomar(5));
+    hitungSyams();
+    k_.taadil.TaadilBaris(HsTdlDq.semua(), 5, HsSyams(5), 5, false);
+}
+
+void KerangkaKhusuf::hitungSyams() {
+    HsSyams(1) = HsJumlah(4);
+    HsSyams(2) = HsJumlah(5);
+    HsSyams(3) = tambah(HsSyams(1), HsSyams(2));
+    HsSyams(4) = HsQomar(6);
+    HsSyams(5) = kurang(HsSyams(3), HsSyams(4));
+    // The moon stands opposite the sun.
+    HsSyams(6) = tambah(HsSyams(5), busur(6, 0, 0));
+}
+
+void KerangkaKhusuf::IstiqbalKhusuf() {
+    HitungSaah(HsSaah.semua(), HsQomar(3), HsTdlDq(5), HsTdlHs(5));
+    HsIstiqbal(1) = HsJumlah(1);
+    HsIstiqbal(2) = CUmumToAlamah(HsSaah(5), false);
+    HsIstiqbal(3) = kurangAlamah(HsIstiqbal(1), HsIstiqbal(2));
+    // The time the moon takes over its distance from the node: twelve seconds a degree of the
+    // Hishshoh, times the hours per degree.
+    HsIstiqbal(4) = CUmumToAlamah(NolkanBuruj(HsJumlah(2)), false);
+    HsIstiqbal(5) = CUmumToAlamah(kali(CAlamahToUmum(HsIstiqbal(4)), busur(0, 0, 0, 12)), false);
+    HsIstiqbal(6) = CUmumToAlamah(HsTdlHs(5), false);
+    HsIstiqbal(7) = CUmumToAlamah(kali(CAlamahToUmum(HsIstiqbal(5)), CAlamahToUmum(HsIstiqbal(6))), false);
+    // Before the node the time is added, after it taken off.
+    HsIstiqbal(8) = HsIstiqbal(3);
+    if (burujSebelumSimpul(HsJumlah(2))) HsIstiqbal(8) = GantiTanda(HsIstiqbal(8), "0");
+    HsIstiqbal(9) = GantiTanda(kurangAlamah(HsIstiqbal(8), HsIstiqbal(7)), "1");
+    HsIstiqbal(10) = SelisihBujur(k_.sesi.tempat, data_.bujurDerajat, data_.bujurMenit, false);
+    HsIstiqbal(11) = tambahAlamah(HsIstiqbal(9), HsIstiqbal(10));
+}
+
+void KerangkaKhusuf::ArdlKhusuf() {
+    HsArdl(1) = HsSaah(5);
+    HsArdl(2) = kali(HsArdl(1), busur(0, 0, 2, 30));
+    HsArdl(3) = HsTdlMr(5);
+    HsArdl(4) = tambah(HsArdl(2), HsArdl(3));
+    HsArdl(5) = HsJumlah(2);
+    HsArdl(6) = HsArdl(4);
+    HsArdl(7) = kurang(HsArdl(5), HsArdl(6));
+}
+
+void KerangkaKhusuf::BuhtuKhusuf() {
+    HsBuhtu(1) = HsSaah(5);
+    HsBuhtu(2) = kali(HsBuhtu(1), busur(0, 0, 43));
+    HsBuhtu(3) = HsJumlah(3);
+    HsBuhtu(4) = kurang(HsBuhtu(3), HsBuhtu(2));
+    ClsTaadil& t = k_.taadil;
+    t.TaadilBaris(HsTdlBuhtu.semua(), 22, HsBuhtu(4), 5, false);
+    t.TaadilBaris(HsTdlHs2.semua(), burujSebelumSimpul(HsArdl(7)) ? 24 : 23, HsArdl(7), 12, false);
+}
+
+void KerangkaKhusuf::UkuranKhusuf() {
+    ClsTaadil& t = k_.taadil;
+    t.TaadilKhusfGanda(HsAshobi.semua(), 25, HsTdlBuhtu(5), HsTdlHs2(5));
+    t.TaadilKhusfGanda(HsSaatKhusf.semua(), 27, HsTdlBuhtu(5), HsTdlHs2(5));
+    t.TaadilKhusfGanda(HsMuktsu.semua(), 26, HsTdlBuhtu(5), HsTdlHs2(5));
+}
+
+void KerangkaKhusuf::FaseKhusuf() {
+    HsFase(1) = HsIstiqbal(11);
+    HsFase(2) = CUmumToAlamah(HsSaatKhusf(11), false);
+    HsFase(3) = kurangAlamah(HsFase(1), HsFase(2));
+    HsFase(4) = tambahAlamah(HsFase(1), HsFase(2));
+    HsFase(5) = kurangAlamah(HsFase(4), HsFase(3));
+
+    HsFaseTotal(1) = HsIstiqbal(11);
+    if (NilaiDesimal(JenisBusur, HsMuktsu(11)) == 0.0) {
+        for (size_t i = 2; i <= 5; ++i) HsFaseTotal(i) = alamahNol();
+        return;
+    }
+    HsFaseTotal(2) = CUmumToAlamah(HsMuktsu(11), false);
+    HsFaseTotal(3) = kurangAlamah(HsFaseTotal(1), HsFaseTotal(2));
+    HsFaseTotal(4) = tambahAlamah(HsFaseTotal(1), HsFaseTotal(2));
+    HsFaseTotal(5) = kurangAlamah(HsFaseTotal(4), HsFaseTotal(3));
+}
+
+std::optional<Nilai> KerangkaKhusuf::awalBulan(int32_t tahun, int16_t bulan) {
+    // The ijtima' at the end of the month before opens this month. Fathu's reckoning writes the
+    // chosen date of the session; the eclipse run keeps its own.
+    const Nilai pilihan = k_.sesi.tanggalPilihan;
+    const auto awal = bulan - 1 < 1 ? fathur_->AwalBulanFR(tahun - 1, static_cast<int16_t>(bulan + 11))
+                                    : fathur_->AwalBulanFR(tahun, static_cast<int16_t>(bulan - 1));
+    k_.sesi.tanggalPilihan = pilihan;
+    return awal;
+}
+
+HasilHitung KerangkaKhusuf::HitungKhusuf(int32_t tahun, int16_t bulan, bool lembar) {
+    Kemajuan& maju = k_.kemajuan;
+    HasilHitung h;
+    maju.mulai(kLangkah);
+    PokokKhusuf(tahun, bulan);
+    maju.langkah();
+    if (!UjiHishshoh(HsJumlah(2))) {
+        maju.penuh();
+        return h;
+    }
+    const auto awal = awalBulan(tahun, bulan);
+    for (void (KerangkaKhusuf::*tahap)() : {&KerangkaKhusuf::TaadilKhusuf, &KerangkaKhusuf::QomarKhusuf,
+                                            &KerangkaKhusuf::IstiqbalKhusuf, &KerangkaKhusuf::ArdlKhusuf,
+                                            &KerangkaKhusuf::BuhtuKhusuf, &KerangkaKhusuf::UkuranKhusuf,
+                                            &KerangkaKhusuf::FaseKhusuf}) {
+        (this->*tahap)();
+        maju.langkah();
+    }
+    if (!UjiMalam(HsFase(3), HsFase(4)) || !awal) {
+        maju.penuh();
+        return h;
+    }
+    h.gerhana.emplace();
+    h.gerhana->tanggal = *awal;
+    KesimpulanKhusuf(h);
+    if (lembar) {
+        ClsFlexGrid g(&h.lembarBaru(""));
+        IsiTabelKhusuf(g);
+        tulisSel(g);
+        h.baris = baris();
+    }
+    maju.penuh();
+    return h;
+}
+
+void KerangkaKhusuf::KesimpulanKhusuf(HasilHitung& h) {
+    ClsKesimpulan& ks = k_.kesimpulan;
+    const Sesi& s = k_.sesi;
+    RingkasanGerhana& r = *h.gerhana;
+    int16_t hariHijri = 0;
+    Nilai tanggal = r.tanggal;
+    const std::string hari = ks.FullGerhanB(tanggal, HsIstiqbal(11), HsIstiqbal(11), hariHijri);
+    r.tanggal = tanggal;
+
+    const Nilai& ukuran = HsAshobi(11);
+    const bool total = NilaiDesimal(JenisBusur, HsMuktsu(11)) != 0.0;
+    const auto jam = [&](const Nilai& alamah, const Nilai& tempat, bool akhir) {
+        return ks.FormatJam(jamSipil(alamah), tanggal, true, tempat, ukuran, true, akhir);
+    };
+    const auto lama = [&](const Nilai& alamah) { return ks.FormatJam(alamah, tanggal, false, {}, ukuran, true, false); };
+    r.awal = jam(HsFase(3), HsArdl(7), false);
+    r.tengah = jam(HsFase(1), {}, false);
+    r.akhir = jam(HsFase(4), HsArdl(7), true);
+    if (total) {
+        r.awalTotal = jam(HsFaseTotal(3), {}, false);
+        r.akhirTotal = jam(HsFaseTotal(4), {}, false);
+    }
+    r.besar = ks.UkuranGerhana(ukuran);
+    r.jamTengah = jamDesimal(jamSipil(HsFase(1)));
+    r.ashobi = NilaiDesimal(JenisBusur, NolkanBuruj(ukuran));
+
+    std::vector<std::string>& b = h.kesimpulan;
+    b = {s.namaKitab,
+         s.labelKe(16) + hari,
+         s.labelKe(17) + r.awal,
+         s.labelKe(18) + r.tengah,
+         s.labelKe(19) + r.akhir,
+         s.labelKe(20) + lama(HsFase(5)),
+         s.labelKe(21) + (total ? r.awalTotal : "-"),
+         s.labelKe(22) + (total ? r.akhirTotal : "-"),
+         s.labelKe(23) + (total ? lama(HsFaseTotal(5)) : "-"),
+         s.labelKe(24) + r.besar,
+         s.labelKe(25) + ks.WarnaGerhanaM(ditutup(ukuran))};
+    std::string gurub, terbit;
+    ks.WaktuGurub(Nilai(BurujMatahari(tanggal).value_or("")), gurub, terbit);
+    b.push_back(s.labelKe(12) + gurub);
+    const Tempat& t = s.tempat;
+    b.push_back(s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
+                                                     static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
+                                                     t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur))));
+}
+
+void KerangkaKhusuf::IsiTabelKhusuf(ClsFlexGrid& g) {
+    const Sesi& s = k_.sesi;
+    g.FlexSetting(58, 40, 490, 500, 2500, true);
+    IsiBingkai(g, k_.koneksi.Names, std::string(data_.kode) + "GB");
+    const int tahun = AmbilTingkat(s.tanggalPilihan, MedanTahun);
+    g.FlexNama("خسوف القمر في شهر " + NamaBulanArab(HsBulan) + " سنة " + std::to_string(tahun) + " ببلد " +
+                   s.tempat.namaTampil,
+               0, 0, 39);
+    g.FlexTeks(std::to_string(HsDawr), 3, 39);
+    g.FlexTeks(std::to_string(HsSisaTahun), 4, 39);
+    g.FlexTeks(NamaBulanArab(HsBulan), 5, 39);
+    g.FlexTeks(s.tempat.nama, 34, 39);
+}
+
+void KerangkaKhusuf::tulisSel(ClsFlexGrid& g) {
+    constexpr int T = ClsFlexGrid::kTanpaMedan;
+    const std::initializer_list<int> lima = {1, 2, 3, 4, 5};
+    const std::initializer_list<int> waktu = {10, 11, 12, 13, 14};
+    int c = 37;
+    for (size_t k = 1; k <= 5; c -= 6, ++k)
+        for (auto [baris, row] : {std::pair{3, &HsMajmu}, {4, &HsMabsut}, {5, &HsSyahr}, {6, &HsJumlah}})
+            g.FlexData((*row)(k), baris, c, k == 1 ? std::initializer_list<int>{10, 11, 12, T}
+                                                    : std::initializer_list<int>{1, 2, 3, T});
+    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan) {
+        for (size_t k = 1; k <= row.ukuran(); ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
+    };
+    kolom(HsQomar, 8, 37, lima);
+    kolom(HsSyams, 14, 37, lima);
+    kolom(HsSaah, 20, 37, lima);
+    kolom(HsIstiqbal, 25, 37, waktu);
+    kolom(HsArdl, 36, 37, lima);
+    kolom(HsBuhtu, 43, 37, lima);
+    kolom(HsFase, 47, 37, waktu);
+    kolom(HsFaseTotal, 52, 37, waktu);
+    kolom(HsTdlKs, 9, 19, lima);
+    kolom(HsTdlHs, 17, 19, lima);
+    kolom(HsTdlAr, 25, 19, lima);
+    kolom(HsTdlBuhtu, 33, 19, lima);
+    kolom(HsAshobi, 41, 19, lima);
+    kolom(HsTdlMr, 9, 9, lima);
+    kolom(HsTdlDq, 17, 9, lima);
+    kolom(HsTdlHs2, 25, 9, lima);
+    kolom(HsSaatKhusf, 33, 9, lima);
+    kolom(HsMuktsu, 47, 9, lima);
+}
+
+std::vector<BarisTercatat> KerangkaKhusuf::baris() const {
+    return {catat("HsMajmu", HsMajmu),         catat("HsMabsut", HsMabsut),     catat("HsSyahr", HsSyahr),
+            catat("HsJumlah", HsJumlah),       catat("HsTdlKs", HsTdlKs),       catat("HsTdlMr", HsTdlMr),
+            catat("HsTdlAr", HsTdlAr),         catat("HsTdlHs", HsTdlHs),       catat("HsQomar", HsQomar),
+            catat("HsSyams", HsSyams),         catat("HsTdlDq", HsTdlDq),       catat("HsSaah", HsSaah),
+            catat("HsIstiqbal", HsIstiqbal),   catat("HsArdl", HsArdl),         catat("HsBuhtu", HsBuhtu),
+            catat("HsTdlBuhtu", HsTdlBuhtu),   catat("HsTdlHs2", HsTdlHs2),     catat("HsAshobi", HsAshobi),
+            catat("HsSaatKhusf", HsSaatKhusf), catat("HsMuktsu", HsMuktsu),     catat("HsFase", HsFase),
+            catat("HsFaseTotal", HsFaseTotal)};
+}
+
+}  // namespace falak
