@@ -126,7 +126,7 @@ TEST_F(BukuFR, TadzkirotuMakesItsFactorFromTheHoursPerDegree) {
     EXPECT_EQ(tz.BudTaqwim(3).teks(), "04 28 02 30 00 1");
 }
 
-TEST_F(BukuFR, FaidluSubtractsFromWhatThePreviousRunLeft) {
+TEST_F(BukuFR, FaidluSubtractsFromTheThirdCellOfItsRow) {
     FaidlulKarim& fk = kitab<FaidlulKarim>("FK");
     fk.TdlKs(5) = Nilai("00 04 00 00 00 1");
     fk.TdlMr(5) = Nilai("00 01 00 00 00 1");

@@ -107,7 +107,9 @@ class UjiFrmHisab : public QObject {
 
     void klikKitab(const QString& nama) {
         auto* pohon = cari<QTreeWidget>(*w, "TreeKitab");
-        const auto ketemu = pohon->findItems(nama, Qt::MatchExactly | Qt::MatchRecursive);
+        // A book with eclipses stands also under the eclipse groups: the month's entry is meant.
+        auto ketemu = pohon->findItems(nama, Qt::MatchExactly | Qt::MatchRecursive);
+        ketemu.removeIf([](const QTreeWidgetItem* i) { return i->parent() && i->parent()->text(0).startsWith("Gerhana"); });
         QCOMPARE(ketemu.size(), 1);
         QTest::mouseClick(pohon->viewport(), Qt::LeftButton, {}, pohon->visualItemRect(ketemu[0]).center());
     }
@@ -186,8 +188,7 @@ private slots:
         // Every key of the menu tree stands on the list the bar is built from. Those whose
         // work has landed are on the bar; the others are not there at all, not even as an
         // empty menu.
-        const QStringList belum = {"mnuExportRumus", "mnuPicRumuz",   "mnuProsesGB",   "mnuProsesGM",
-                                   "mnuthGerhanaB",  "mnuthGerhanaM", "mnthGB|1",      "mnthGM|1"};
+        const QStringList belum = {"mnuExportRumus", "mnuPicRumuz"};
         const char* pohon[] = {"FILE",         "mnuExport",   "mnuExportThis", "mnuExportKet", "mnuExportAll",
                                "mnuExportRumus", "mnuPrint",  "mnuExit",       "EDIT",         "mnuPicRumuz",
                                "mnuNewDaerah", "PROSESMENU",  "mnuProsesIj",   "mnuProsesIj|2", "mnuProsesGB",

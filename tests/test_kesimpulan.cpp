@@ -24,7 +24,10 @@ TEST_F(Uji, ConvertToHijriCarriesTheDayNumberToTheCivilCalendar) {
     EXPECT_EQ(teks(ks.ConvertToHijri(1445, 9, 1)), "2024 03 10 1 1 00 00 00 00 1");  // Ahad Legi
     EXPECT_EQ(teks(ks.ConvertToHijri(1434, 9, 1)), "2013 07 8 3 2 00 00 00 00 1");
     EXPECT_EQ(teks(ks.ConvertToHijri(1434, 8, 30)), "2013 07 8 3 2 00 00 00 00 1");
-    // Before the reform the Julian reckoning holds: 15 July 622, a Thursday.
+    // The last day of a year is 31 December, never day 0 of January: day number 739253 is Julian
+    // day 2460676, a Tuesday.
+    EXPECT_EQ(teks(ks.ConvertToHijri(1446, 6, 30)), "2024 12 31 2 3 00 00 00 00 1");  // Selasa Pahing
+        // Before the reform the Julian reckoning holds: 15 July 622, a Thursday.
     EXPECT_EQ(teks(ks.ConvertToHijri(1, 1, 1)), "622 07 15 5 5 00 00 00 00 1");
 }
 

@@ -184,8 +184,9 @@ private:
         lxw_data_validation v{};
         v.validate = LXW_VALIDATION_TYPE_ANY;
         v.show_input = LXW_VALIDATION_ON;
-        v.input_title = judul.data();
-        v.input_message = pesan.data();
+        // An empty title or message is left out rather than written empty.
+        v.input_title = judul.empty() ? nullptr : judul.data();
+        v.input_message = pesan.empty() ? nullptr : pesan.data();
         worksheet_data_validation_cell(ws_, static_cast<lxw_row_t>(t.baris), kolom(t.kolom), &v);
     }
 

@@ -6,6 +6,7 @@
 
 #include <map>
 
+#include "core/Angka.h"
 #include "core/FungsHisab.h"
 #include "ui/FrmHisab.h"
 #include "ui/KotakPesan.h"
@@ -30,6 +31,33 @@ void eksporIni(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::HalamanIni); 
 void eksporKet(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Keterangan); }
 void eksporSemua(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Semua); }
 void cetak(FrmHisab& j, QAction&) { Cetak(j); }
+
+// One book's eclipse of the chosen month, on a sheet as a month's reckoning opens.
+void prosesGerhana(FrmHisab& j, const EntriModul& m) {
+    j.proses([kode = std::string(m.kode), jenis = m.garapan](Workspace& ws, const FrmHisab::Pilihan& p) {
+        return ws.mnuProsesGerhana(jenis, kode, p.tahun, p.bulan, p.tempat);
+    });
+}
+
+// The search over the chosen year and the n - 1 after it, by every book that reckons that
+// eclipse: a sheet for each eclipse found. The stop button ends it between two months.
+void gerhanaBeberapaTahun(FrmHisab& j, Garapan jenis, int n) {
+    j.prosesBatch([jenis, n](Workspace& ws, const FrmHisab::Pilihan& p) {
+        Workspace::HasilBatch semua;
+        const int32_t akhir = BulatGenap32(ValAngka(p.tahun)).value_or(0) + n - 1;
+        for (const EntriModul& e : DaftarModul()) {
+            if (e.garapan != jenis || !e.tersedia()) continue;
+            Workspace::HasilBatch h = ws.cariGerhana(jenis, std::string(e.kode), p.tahun, akhir, p.tempat,
+                                                     Workspace::Keluaran::Lembar);
+            semua.lembar.insert(semua.lembar.end(), h.lembar.begin(), h.lembar.end());
+            if (h.pesan) semua.pesan = h.pesan;
+            if ((semua.dihentikan = h.dihentikan) || h.pesan) break;
+        }
+        return semua;
+    });
+}
+void gerhanaBulanTahun(FrmHisab& j, int n) { gerhanaBeberapaTahun(j, Garapan::Hs, n); }
+void gerhanaMatahariTahun(FrmHisab& j, int n) { gerhanaBeberapaTahun(j, Garapan::Kf, n); }
 
 QString judulBulan(int bulan) { return QString::fromUtf8(kBarisBulan[static_cast<size_t>(bulan - 1)]); }
 QString tahunKedepan(int n) { return QString::number(n) + QStringLiteral(" tahun kedepan"); }
@@ -129,9 +157,9 @@ const std::vector<ItemMenu>& DaftarMenu() {
         Menu("PROSESMENU", "mnuProsesIj", "Hisab Awal Bulan"),
         PerModul("mnuProsesIj", "mnuProsesIj", Garapan::Ij, prosesKitab),
         Menu("PROSESMENU", "mnuProsesGB", "Gerhana Bulan"),
-        PerModul("mnuProsesGB", "mnuProsesGB", Garapan::Hs, nullptr),
+        PerModul("mnuProsesGB", "mnuProsesGB", Garapan::Hs, prosesGerhana),
         Menu("PROSESMENU", "mnuProsesGM", "Gerhana Matahari"),
-        PerModul("mnuProsesGM", "mnuProsesGM", Garapan::Kf, nullptr),
+        PerModul("mnuProsesGM", "mnuProsesGM", Garapan::Kf, prosesGerhana),
         Pemisah("PROSESMENU", "SEPARATOR4"),
         Perintah("PROSESMENU", "mnuProsesAll", "Proses semua metode", prosesSemuaMetode),
         Perintah("PROSESMENU", "mnuProsesAll1", "Proses semua metode (Tab Baru)", prosesSemuaMetodeTabBaru),
@@ -141,9 +169,9 @@ const std::vector<ItemMenu>& DaftarMenu() {
         Perintah("PROSESMENU", "mnu12Bulan1", "Satu tahun (Tab Baru)", prosesSetahunTabBaru),
         Pemisah("PROSESMENU", "SEPARATOR5"),
         Menu("PROSESMENU", "mnuthGerhanaB", "Gerhana Bulan Beberapa Tahun"),
-        PerNomor("mnuthGerhanaB", "mnthGB", 1, 10, tahunKedepan, nullptr),
+        PerNomor("mnuthGerhanaB", "mnthGB", 1, 10, tahunKedepan, gerhanaBulanTahun),
         Menu("PROSESMENU", "mnuthGerhanaM", "Gerhana Matahari Beberapa Tahun"),
-        PerNomor("mnuthGerhanaM", "mnthGM", 1, 10, tahunKedepan, nullptr),
+        PerNomor("mnuthGerhanaM", "mnthGM", 1, 10, tahunKedepan, gerhanaMatahariTahun),
 
         MenuJendela("", "SHEETSMENU", "&Lembar"),
         Perintah("SHEETSMENU", "mnuTutupLembar", "&Tutup Lembar Ini", tutupLembar, QKeySequence(Qt::CTRL | Qt::Key_W)),

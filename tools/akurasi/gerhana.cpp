@@ -13,6 +13,10 @@
 //   no such   an announced eclipse with no umbral eclipse within two days (a penumbral one
 //             counted apart), or one the sky has only by day.
 //
+// The solar eclipses likewise, against every solar eclipse whose greatest phase the markaz sees
+// by day (its local circumstances): the book's middle against the local greatest phase, its
+// fingers against twelve times the local magnitude.
+//
 // Run from the top of the repository (it reads data/): ./build/bin/akurasi-gerhana
 #include <swephexp.h>
 
@@ -106,6 +110,77 @@ double tengahBuku(const RingkasanGerhana& g, double bujur) {
     return dariHakiki(jd, bujur);
 }
 
+// The solar eclipses seen at the markaz (the sun above the horizon at the greatest phase there)
+// against the book's search: the middle against the local greatest phase, the fingers against
+// twelve times the local magnitude (the fraction of the sun's diameter covered).
+struct MarkazKusuf {
+    const char* kitab;
+    const char* tempat;
+    double lintang, bujur;
+};
+const MarkazKusuf kMarkazKusuf[] = {{"SN", "Jakarta", -(6 + 15 / 60.0), 106 + 52 / 60.0}};
+
+void cocokKusuf(Workspace& ws) {
+    std::printf("\nSolar eclipses of %d to %d H seen at the markaz, against the book's search\n", kTahunAwal, kTahunAkhir);
+    std::printf("%-5s %-9s %6s %6s %6s %8s %6s  %-23s %-23s\n", "kitab", "markaz", "sky", "found", "missed",
+                "no such", "month", "middle (h): mean, |max|", "size (fingers): mean, |max|");
+    for (const MarkazKusuf& mk : kMarkazKusuf) {
+        const EntriModul* e = CariModul(mk.kitab, Garapan::Kf);
+        if (!e || !e->tersedia()) continue;
+        struct Lokal {
+            double puncak, magnitudo;
+            int tahun, bulan;
+            bool dipakai = false;
+        };
+        std::vector<Lokal> sejati;
+        const double mulai = kMuharram1 + 12.0 * (kTahunAwal - 1) * kBulan;
+        const double selesai = kMuharram1 + 12.0 * kTahunAkhir * kBulan;
+        double geo[3] = {mk.bujur, mk.lintang, 0};
+        char err[256];
+        for (double t = mulai; t < selesai;) {
+            double tret[10], attr[20];
+            const int jenis = swe_sol_eclipse_when_loc(t, SEFLG_SWIEPH, geo, tret, attr, 0, err);
+            if (jenis < 0 || tret[0] >= selesai) break;
+            t = tret[0] + 20;
+            if (!(jenis & SE_ECL_VISIBLE) || !(jenis & SE_ECL_MAX_VISIBLE)) continue;
+            const int n = static_cast<int>(std::floor((tret[0] - kMuharram1) / kBulan));
+            sejati.push_back({tret[0], attr[0], n / 12 + 1, n % 12 + 1});
+        }
+        const auto hasil = ws.cariGerhana(Garapan::Kf, mk.kitab, std::to_string(kTahunAwal), kTahunAkhir, mk.tempat);
+        int ketemu = 0, tiada = 0, lainBulan = 0;
+        double jumlahJam = 0, maksJam = 0, jumlahJari = 0, maksJari = 0;
+        for (const Workspace::HasilRun& r : hasil.ringkas) {
+            const double t = tengahBuku(*r.gerhana, mk.bujur);
+            Lokal* cocok = nullptr;
+            for (Lokal& s : sejati)
+                if (std::fabs(s.puncak - t) < 2) cocok = &s;
+            if (!cocok) {
+                ++tiada;
+                continue;
+            }
+            cocok->dipakai = true;
+            ++ketemu;
+            // The book names the month whose end the ijtima' closes.
+            if (cocok->tahun != r.tahun || cocok->bulan != r.bulan) ++lainBulan;
+            const double dj = (t - cocok->puncak) * 24;
+            const double dx = r.gerhana->ashobi - 12 * cocok->magnitudo;
+            jumlahJam += dj;
+            jumlahJari += dx;
+            if (std::fabs(dj) > std::fabs(maksJam)) maksJam = dj;
+            if (std::fabs(dx) > std::fabs(maksJari)) maksJari = dx;
+        }
+        int luput = 0;
+        for (const Lokal& s : sejati) luput += !s.dipakai;
+        std::printf("%-5s %-9s %6zu %6d %6d %8d %6d  %+6.2f %6.2f %9s %+6.2f %6.2f\n", mk.kitab, mk.tempat,
+                    sejati.size(), ketemu, luput, tiada, lainBulan, ketemu ? jumlahJam / ketemu : 0.0,
+                    std::fabs(maksJam), "", ketemu ? jumlahJari / ketemu : 0.0, std::fabs(maksJari));
+        std::printf("      missed:");
+        for (const Lokal& s : sejati)
+            if (!s.dipakai) std::printf(" %d/%d (%.2f)", s.tahun, s.bulan, s.magnitudo);
+        std::printf("\n");
+    }
+}
+
 }  // namespace
 
 int main() {
@@ -159,5 +234,6 @@ int main() {
             if (s.dilihat && !s.dipakai) std::printf(" %d/%d (%.2f)", s.tahun, s.bulan, s.magnitudo);
         std::printf("\n");
     }
+    cocokKusuf(ws);
     return 0;
 }

@@ -111,6 +111,27 @@ class LunarEclipseThroughFalak(unittest.TestCase):
             self.assertGreaterEqual(found[month]["ashobi"], 12)
         self.assertNotIn((1446, 9), found)
 
+    def test_solar_eclipse_of_march_2016(self):
+        # The total eclipse of 9 March 2016: at Jakarta a deep partial one in the morning,
+        # greatest at 07.22 WIB, magnitude 0.90 (Swiss Ephemeris). The book finds it at the end
+        # of Jumadil ula 1437 and puts it in the morning, within two hours.
+        r = self.falak("gerhana", "--jenis", "matahari", "--kitab", "SN", "--tahun", "1437", "--bulan", "5",
+                       "--markaz", "Jakarta")
+        self.assertEqual(r.returncode, 0, r.stderr)
+        lines = r.stdout.splitlines()
+        self.assertIn("Gerhana terjadi pada : Rabu Pon, 29 J. Ula 1437 H./ 9 Mar 2016 M.", lines)
+        middle = next(l for l in lines if l.startswith("Tengah gerhana : "))
+        hours, minutes = map(int, middle.split("WIS, ")[1].split(" ")[0].split("."))
+        self.assertLess(abs(hours * 60 + minutes - (7 * 60 + 22)), 120, middle)
+        self.assertTrue(middle.endswith("(Pagi)"))
+
+    def test_solar_eclipse_only_at_latitudes_six_to_eight(self):
+        r = self.falak("gerhana", "--jenis", "matahari", "--kitab", "SN", "--tahun", "1437", "--bulan", "5",
+                       "--markaz", "Makkah")
+        self.assertEqual(r.returncode, 1)
+        self.assertIn("Gerhana matahari hanya bisa memproses untuk daerah dengan lintang 6, 7 dan 8 saja.", r.stderr)
+        self.assertEqual(r.stdout, "")
+
     def test_bad_input_is_refused(self):
         self.assertEqual(self.falak("gerhana", "--jenis", "bintang", "--tahun", "1445").returncode, 2)
         self.assertEqual(self.falak("gerhana", "--tahun", "1445", "--sampai", "1440").returncode, 2)
