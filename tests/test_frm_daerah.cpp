@@ -75,9 +75,9 @@ private slots:
         QCOMPARE(daftar->rowCount(), 4);
         // Saved at once, with the name as the display name, in the register's column order.
         QVERIFY(folder.isiDaerah().ends_with("\nLasem,Lasem,6,42,LS,111,26,BT,7,10\n"));
-        // Written through a temporary file that is gone again.
+        // Written through a temporary file that is gone again, under the register's lock.
         QCOMPARE(QDir(QString::fromStdString(folder.pengguna().string())).entryList(QDir::Files),
-                 QStringList({"Daerah.csv"}));
+                 QStringList({"Daerah.csv", "Daerah.csv.lock"}));
 
         // A change of the chosen place replaces its row.
         pilihBaris(*d, "Lasem");

@@ -49,11 +49,12 @@ TEST(ClsConnection, OpensWhatItCanAndTellsWhatItCannot) {
               std::string::npos);
     EXPECT_EQ(LaporanMasalah({}), "");
 
-    EXPECT_EQ(k.WriteToFile(k.TRBTaadil), "Hanya daftar tempat yang boleh disimpan.");
-    EXPECT_EQ(k.registerDaerah().tambah({"Gresik", "", "7", "9", "LS", "112", "39", "BT", "7", "0"}),
+    EXPECT_EQ(k.ubahDaerah([](RegisterDaerah& r) {
+        return r.tambah({"Gresik", "", "7", "9", "LS", "112", "39", "BT", "7", "0"});
+    }),
               "Berkas daftar tempat tidak punya kolom BaladAR, jadi tempatnya tidak bisa diisi.");
-    EXPECT_EQ(k.registerDaerah().hapus("Pasuruan"), "");
-    EXPECT_EQ(k.WriteToFile(k.Daerah), "");
+    EXPECT_EQ(k.ubahDaerah([](RegisterDaerah& r) { return r.hapus("Pasuruan"); }), "");
+    EXPECT_EQ(k.Daerah.jumlahBaris(), 0u);
     std::ifstream in(lokasi.pengguna / "Daerah.csv");
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(in), {}), "BaladIN,ZonaTime\n");
     fs::remove_all(akar);

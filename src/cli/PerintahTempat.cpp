@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <map>
 #include <optional>
 #include <ostream>
@@ -85,60 +86,53 @@ void daftar(const RegisterDaerah& reg, size_t jumlah, std::ostream& out) {
     }
 }
 
-// The register of the session's folders, opened for the command; a problem with its file is
-// told, and the register still serves what it could read.
-struct Register {
-    Tabel tabel{"Daerah"};
-    RegisterDaerah reg;
-
-    Register(const Argumen& a, const Lingkungan& l) : reg(tabel, BerkasDaerah(l.lokasi)) {
-        if (const std::string masalah = BukaDaerah(tabel, l.lokasi); !masalah.empty())
-            l.err << "falak " << a.perintah().nama << ": daftar tempat " << reg.berkas().string() << ": " << masalah
-                  << '\n';
-    }
-};
-
-// The change made in memory is saved; either refusal is told. Returns the exit status.
-int simpan(const Argumen& a, const Lingkungan& l, RegisterDaerah& reg, std::string tolak, std::string_view kata) {
-    if (tolak.empty()) tolak = reg.simpan();
-    if (!tolak.empty()) return Tolak(a, l, tolak);
-    l.out << "Tempat \"" << a.posisi()[0] << "\" sudah " << kata << " " << reg.berkas().string() << ".\n";
+// A change to the register, made under its lock on the file as it is now; the refusal, or the
+// confirmation naming the file. Returns the exit status.
+int ubah(const Argumen& a, const Lingkungan& l, std::string_view kata,
+         const std::function<std::string(RegisterDaerah&)>& perubahan) {
+    Tabel tabel("Daerah");
+    if (const std::string tolak = RegisterDaerah::Ubah(tabel, l.lokasi, perubahan); !tolak.empty())
+        return Tolak(a, l, tolak);
+    l.out << "Tempat \"" << a.posisi()[0] << "\" sudah " << kata << " " << BerkasDaerah(l.lokasi).string() << ".\n";
     return 0;
 }
 
 }  // namespace
 
 int perintahTempatDaftar(const Argumen& a, const Lingkungan& l) {
-    Register r(a, l);
-    daftar(r.reg, r.tabel.jumlahBaris(), l.out);
+    Tabel tabel("Daerah");
+    // A problem with the file is told, and the list still shows what could be read.
+    if (const std::string masalah = BukaDaerah(tabel, l.lokasi); !masalah.empty())
+        l.err << "falak " << a.perintah().nama << ": daftar tempat " << BerkasDaerah(l.lokasi).string() << ": "
+              << masalah << '\n';
+    daftar(RegisterDaerah(tabel, BerkasDaerah(l.lokasi)), tabel.jumlahBaris(), l.out);
     return 0;
 }
 
 int perintahTempatTambah(const Argumen& a, const Lingkungan& l) {
-    Register r(a, l);
     IsianTempat isian;
     isian.nama = a.posisi()[0];
-    const auto salah = terapkan(a, isian);
-    return simpan(a, l, r.reg, salah ? *salah : r.reg.tambah(isian), "ditambahkan ke");
+    if (const auto salah = terapkan(a, isian)) return Tolak(a, l, *salah);
+    return ubah(a, l, "ditambahkan ke", [&](RegisterDaerah& reg) { return reg.tambah(isian); });
 }
 
 int perintahTempatUbah(const Argumen& a, const Lingkungan& l) {
     if (a.semua().empty()) throw SalahPakai{"tidak ada yang diubah"};
-    Register r(a, l);
     const std::string& nama = a.posisi()[0];
-    IsianTempat isian;
-    if (const auto ada = r.reg.cari(nama)) {
-        isian = r.reg.isian(*ada);
-        // A display name that only repeated the name follows the name when it changes.
-        if (isian.namaTampil == isian.nama) isian.namaTampil.clear();
-    }
-    const auto salah = terapkan(a, isian);
-    return simpan(a, l, r.reg, salah ? *salah : r.reg.ubah(nama, isian), "diubah di");
+    return ubah(a, l, "diubah di", [&](RegisterDaerah& reg) {
+        IsianTempat isian;
+        if (const auto ada = reg.cari(nama)) {
+            isian = reg.isian(*ada);
+            // A display name that only repeated the name follows the name when it changes.
+            if (isian.namaTampil == isian.nama) isian.namaTampil.clear();
+        }
+        if (const auto salah = terapkan(a, isian)) return *salah;
+        return reg.ubah(nama, isian);
+    });
 }
 
 int perintahTempatHapus(const Argumen& a, const Lingkungan& l) {
-    Register r(a, l);
-    return simpan(a, l, r.reg, r.reg.hapus(a.posisi()[0]), "dihapus dari");
+    return ubah(a, l, "dihapus dari", [&](RegisterDaerah& reg) { return reg.hapus(a.posisi()[0]); });
 }
 
 }  // namespace falak::cli

@@ -12,6 +12,7 @@
 #include <windows.h>
 #else
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 #endif
@@ -175,6 +176,68 @@ std::string TulisAtomik(const fs::path& berkas, std::string_view isi) {
     }
     sinkronFolder(folder);
     return {};
+#endif
+}
+
+namespace {
+
+// The names TulisAtomik gives its temporary file.
+bool namaSementara(const std::string& nama, const std::string& berkas) {
+#ifdef _WIN32
+    return nama == "~" + berkas + ".tmp";
+#else
+    const std::string awal = "." + berkas + ".";
+    return nama.size() == awal.size() + 6 && nama.starts_with(awal);
+#endif
+}
+
+}  // namespace
+
+void HapusSisaSementara(const fs::path& berkas) {
+    const fs::path folder = berkas.has_parent_path() ? berkas.parent_path() : fs::path(".");
+    std::error_code ec;
+    for (fs::directory_iterator it(folder, ec), akhir; !ec && it != akhir; it.increment(ec))
+        if (namaSementara(it->path().filename().string(), berkas.filename().string())) {
+            std::error_code abaikan;
+            fs::remove(it->path(), abaikan);
+        }
+}
+
+KunciBerkas::KunciBerkas(const fs::path& berkasKunci) {
+    std::error_code ec;
+    if (berkasKunci.has_parent_path()) fs::create_directories(berkasKunci.parent_path(), ec);
+#ifdef _WIN32
+    HANDLE h = CreateFileW(berkasKunci.c_str(), GENERIC_READ | GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE,
+                           nullptr, OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+    OVERLAPPED o{};
+    if (h == INVALID_HANDLE_VALUE || !LockFileEx(h, LOCKFILE_EXCLUSIVE_LOCK, 0, 1, 0, &o)) {
+        masalah_ = "kunci " + berkasKunci.string() + " tidak bisa dipegang (kode " + std::to_string(GetLastError()) + ")";
+        if (h != INVALID_HANDLE_VALUE) CloseHandle(h);
+        return;
+    }
+    pegangan_ = h;
+#else
+    fd_ = ::open(berkasKunci.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    if (fd_ < 0) {
+        masalah_ = "kunci " + berkasKunci.string() + " tidak bisa dibuat (" + alasanSistem(errno) + ")";
+        return;
+    }
+    int hasil;
+    do hasil = ::flock(fd_, LOCK_EX);
+    while (hasil != 0 && errno == EINTR);
+    if (hasil != 0) {
+        masalah_ = "kunci " + berkasKunci.string() + " tidak bisa dipegang (" + alasanSistem(errno) + ")";
+        ::close(fd_);
+        fd_ = -1;
+    }
+#endif
+}
+
+KunciBerkas::~KunciBerkas() {
+#ifdef _WIN32
+    if (pegangan_) CloseHandle(static_cast<HANDLE>(pegangan_));
+#else
+    if (fd_ >= 0) ::close(fd_);  // closing lets the lock go
 #endif
 }
 

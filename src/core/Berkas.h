@@ -39,4 +39,30 @@ std::string BacaBerkas(const std::filesystem::path& berkas, std::string& isi);
 // written (a full disk, a folder that may not be written ...); the old file is then whole.
 std::string TulisAtomik(const std::filesystem::path& berkas, std::string_view isi);
 
+// Removes what an interrupted TulisAtomik of this file may have left beside it. Call it only
+// while no one else writes the file (under its KunciBerkas).
+void HapusSisaSementara(const std::filesystem::path& berkas);
+
+// An exclusive advisory lock on a lock file, held while the object lives, so that the programs
+// that read, change and write one file take turns and none loses another's change. The lock
+// file is made when missing, with its folder, and stays.
+class KunciBerkas {
+public:
+    explicit KunciBerkas(const std::filesystem::path& berkasKunci);
+    ~KunciBerkas();
+    KunciBerkas(const KunciBerkas&) = delete;
+    KunciBerkas& operator=(const KunciBerkas&) = delete;
+
+    // Empty when the lock is held, else why it could not be taken.
+    const std::string& masalah() const { return masalah_; }
+
+private:
+#ifdef _WIN32
+    void* pegangan_ = nullptr;
+#else
+    int fd_ = -1;
+#endif
+    std::string masalah_;
+};
+
 }  // namespace falak

@@ -88,12 +88,43 @@ std::string angkaTeks(std::string_view teks) {
     return std::to_string(static_cast<long>(ValAngka(rapikan(teks))));
 }
 
+// What makes a stored row unfit to serve: no name, or a number cell that holds no number (it
+// would read as 0 in a run). The sides are read leniently ("LS" south, anything else north),
+// as a run reads them.
+std::string periksaBaris(const Tabel& t, size_t b) {
+    if (t.indeksKolom("BaladIN") >= 0 && rapikan(kolomBaris(t, b, "BaladIN")).empty()) return "nama tempat kosong";
+    for (const std::string_view kolom : {"DarojatArdlu", "DaqiqohArdlu", "DarojatThul", "DaqiqohThul", "ZonaTime"}) {
+        if (t.indeksKolom(kolom) < 0) continue;
+        if (const std::string_view isi = rapikan(kolomBaris(t, b, kolom)); !AdalahAngka(isi))
+            return "kolom " + std::string(kolom) + " berisi \"" + Pendekkan(isi, 20) + "\", bukan angka";
+    }
+    if (const std::string_view tinggi = rapikan(kolomBaris(t, b, "Ketinggian")); !tinggi.empty() && !AdalahAngka(tinggi))
+        return "kolom Ketinggian berisi \"" + Pendekkan(tinggi, 20) + "\", bukan angka";
+    return {};
+}
+
+// The lock that the programs changing the register take turns on.
+fs::path berkasKunci(const fs::path& berkas) { return fs::path(berkas).concat(".lock"); }
+
+// The working copy with its good rows; what was left out, told line by line.
+std::string bacaKerja(Tabel& daerah, const fs::path& berkas) {
+    Tabel::Longgar longgar;
+    if (std::string alasan = daerah.buka(berkas, &longgar); !alasan.empty()) return alasan;
+    std::vector<std::string> rusak = std::move(longgar.dilewati);
+    for (std::string& r : RegisterDaerah(daerah, berkas).singkirkanBarisRusak(longgar.barisBerkas))
+        rusak.push_back(std::move(r));
+    if (rusak.empty()) return {};
+    std::string pesan;
+    for (const std::string& r : rusak) pesan += (pesan.empty() ? "" : "; ") + r;
+    return pesan + " (baris itu dilewati; berkas tidak diubah sebelum dibetulkan)";
+}
+
 }  // namespace
 
 std::string BukaDaerah(Tabel& daerah, const LokasiData& lokasi) {
     const fs::path kerja = BerkasDaerah(lokasi);
     std::error_code ec;
-    if (fs::exists(kerja, ec)) return daerah.buka(kerja);
+    if (fs::exists(kerja, ec)) return bacaKerja(daerah, kerja);
 
     daerah.tutup();
     const fs::path pabrik = BerkasBalad(lokasi);
@@ -239,12 +270,62 @@ std::string RegisterDaerah::hapus(std::string_view nama) {
     return {};
 }
 
-std::string RegisterDaerah::simpan() {
+std::vector<std::string> RegisterDaerah::singkirkanBarisRusak(const std::vector<size_t>& barisBerkas) {
+    std::vector<std::string> rusak;
+    for (size_t b = daerah_.jumlahBaris(); b-- > 0;)
+        if (std::string s = periksaBaris(daerah_, b); !s.empty()) {
+            rusak.insert(rusak.begin(), "baris " + std::to_string(b < barisBerkas.size() ? barisBerkas[b] : b + 2) + ": " + s);
+            daerah_.hapusBaris(b);
+        }
+    return rusak;
+}
+
+std::string RegisterDaerah::bolehDitulis() const {
+    std::error_code ec;
+    if (!fs::exists(berkas_, ec)) return {};
+    using enum fs::perms;
+    if ((fs::status(berkas_, ec).permissions() & (owner_write | group_write | others_write)) == none)
+        return "Berkas daftar tempat " + berkas_.string() +
+               " hanya boleh dibaca, jadi tidak diubah. Beri dulu izin tulis pada berkas itu.";
+    Tabel diDisk("Daerah");
+    if (const std::string masalah = bacaKerja(diDisk, berkas_); !masalah.empty())
+        return "Berkas daftar tempat " + berkas_.string() + " rusak: " + masalah +
+               ". Betulkan atau pindahkan dulu berkas itu, biar isinya tidak hilang.";
+    return {};
+}
+
+std::string RegisterDaerah::tulisBerkas() {
     if (auto s = bolehDiubah(); !s.empty()) return s;
+    if (auto s = bolehDitulis(); !s.empty()) return s;
     if (!daerah_.terbuka()) daerah_.bukaKosong({kKolomDaerah.begin(), kKolomDaerah.end()});
+    HapusSisaSementara(berkas_);
     if (auto alasan = TulisAtomik(berkas_, daerah_.keCsv()); !alasan.empty())
         return "Sepurane, daftar tempat gagal disimpan ke " + berkas_.string() + ": " + alasan +
                ". Berkas yang lama tetap utuh.";
+    return {};
+}
+
+std::string RegisterDaerah::simpan() {
+    const KunciBerkas kunci(berkasKunci(berkas_));
+    if (!kunci.masalah().empty()) return "Sepurane, daftar tempat gagal disimpan: " + kunci.masalah() + ".";
+    return tulisBerkas();
+}
+
+std::string RegisterDaerah::Ubah(Tabel& daerah, const LokasiData& lokasi,
+                                 const std::function<std::string(RegisterDaerah&)>& ubah) {
+    const fs::path berkas = BerkasDaerah(lokasi);
+    const KunciBerkas kunci(berkasKunci(berkas));
+    if (!kunci.masalah().empty()) return "Sepurane, daftar tempat tidak bisa diubah: " + kunci.masalah() + ".";
+    Tabel segar(daerah.nama());
+    const std::string masalah = BukaDaerah(segar, lokasi);
+    std::error_code ec;
+    if (!masalah.empty() && fs::exists(berkas, ec))
+        return "Berkas daftar tempat " + berkas.string() + " rusak: " + masalah +
+               ". Betulkan atau pindahkan dulu berkas itu, biar isinya tidak hilang.";
+    RegisterDaerah reg(segar, berkas);
+    if (std::string tolak = ubah(reg); !tolak.empty()) return tolak;
+    if (std::string tolak = reg.tulisBerkas(); !tolak.empty()) return tolak;
+    daerah = std::move(segar);
     return {};
 }
 

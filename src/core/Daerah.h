@@ -9,6 +9,7 @@
 
 #include <array>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -29,8 +30,10 @@ inline std::filesystem::path BerkasDaerah(const LokasiData& lokasi) { return lok
 inline std::filesystem::path BerkasBalad(const LokasiData& lokasi) { return lokasi.data / "Balad.csv"; }
 
 // Opens the working copy into the table, first making it from the factory copy when it is
-// missing. Returns an empty text, or what went wrong (the table is then closed, or open on
-// the factory copy when the working copy could not be made).
+// missing. Returns an empty text, or what went wrong: the table is then closed, or open on
+// the factory copy when the working copy could not be made, or open on the good rows of a
+// damaged working copy (a row that does not read, or whose values would be refused as input,
+// is left out and told with its line; the file stays as it is until the user mends it).
 std::string BukaDaerah(Tabel& daerah, const LokasiData& lokasi);
 
 // The place record of a register row: names trimmed, "LS" south and anything else north,
@@ -69,12 +72,25 @@ public:
     std::string tambah(const IsianTempat& isian);
     std::string ubah(std::string_view nama, const IsianTempat& isian);
     std::string hapus(std::string_view nama);
-    // Writes the working copy. Empty text, or the message to show; the file on the disk is then
-    // the one of the last good save.
+    // Writes the working copy, under the register's lock. Refused when the file on the disk is
+    // read-only or damaged, so that nothing in it is lost. Empty text, or the message to show;
+    // the file on the disk is then the one of the last good save.
     std::string simpan();
+
+    // One change as a whole, under the register's lock: the working copy is read afresh (so that
+    // what another program saved meanwhile is kept), the change is made and saved. On success
+    // the table holds the file as saved; otherwise it is as it was. Empty text, or the message.
+    static std::string Ubah(Tabel& daerah, const LokasiData& lokasi,
+                            const std::function<std::string(RegisterDaerah&)>& ubah);
+
+    // Leaves out the rows whose values would be refused as input (a latitude that is not a
+    // number would read as 0° in a run), each told with its line of the file.
+    std::vector<std::string> singkirkanBarisRusak(const std::vector<size_t>& barisBerkas);
 
 private:
     std::string bolehDiubah() const;
+    std::string bolehDitulis() const;
+    std::string tulisBerkas();
     std::string kolomLengkap() const;
     std::string periksa(const IsianTempat& isian, std::optional<size_t> kecuali) const;
     void tulis(size_t baris, const IsianTempat& isian);

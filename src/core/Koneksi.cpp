@@ -35,11 +35,6 @@ void ClsConnection::BukaTabel(Tabel& tabel, std::string_view nama) {
     if (!alasan.empty()) masalah_.push_back({std::string(nama), berkas, alasan});
 }
 
-std::string ClsConnection::WriteToFile(Tabel& tabel) {
-    if (&tabel != &Daerah) return "Hanya daftar tempat yang boleh disimpan.";
-    return registerDaerah().simpan();
-}
-
 std::string PeriksaIsi(const Tabel& tabel) {
     if (!tabel.terbuka()) return "tabel tidak terbuka";
     if (tabel.jumlahBaris() == 0) return "tabel kosong, tidak ada baris isian";

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -32,8 +33,12 @@ public:
 
     // Opens one table by its name, from its file; a failure is added to masalah().
     void BukaTabel(Tabel& tabel, std::string_view nama);
-    // Saves the places register to its working copy; an empty text, or the message to show.
-    std::string WriteToFile(Tabel& tabel);
+    // One change to the places register, made and saved under its lock on the file as it is
+    // now (RegisterDaerah::Ubah); the table Daerah then holds the file as saved. An empty text,
+    // or the message to show.
+    std::string ubahDaerah(const std::function<std::string(RegisterDaerah&)>& ubah) {
+        return RegisterDaerah::Ubah(Daerah, lokasi_, ubah);
+    }
 
     // A table by name; nullptr for a name that is not one of the tables.
     Tabel* tabel(std::string_view nama);

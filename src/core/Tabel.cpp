@@ -157,11 +157,11 @@ void Tabel::bukaKosong(std::vector<std::string> kolom) {
     terbuka_ = true;
 }
 
-std::string Tabel::bacaCsv(std::string_view isi) {
+std::string Tabel::bacaCsv(std::string_view isi, Longgar* longgar) {
     tutup();
     if (isi.size() >= 3 && isi.substr(0, 3) == "\xEF\xBB\xBF") isi.remove_prefix(3);
     if (isi.size() >= std::numeric_limits<uint32_t>::max()) return "berkas kebesaran";
-    if (const size_t salah = SalahUtf8(isi); salah != std::string_view::npos)
+    if (const size_t salah = SalahUtf8(isi); salah != std::string_view::npos && !longgar)
         return "baris " + std::to_string(barisDi(isi, salah)) + ": bukan teks UTF-8 yang sah";
 
     PembacaCsv csv(isi);
@@ -173,6 +173,7 @@ std::string Tabel::bacaCsv(std::string_view isi) {
     }
     if (kolom.empty()) return "berkas kosong, tidak ada baris judul";
     for (size_t k = 0; k < kolom.size(); ++k) {
+        if (SalahUtf8(kolom[k]) != std::string_view::npos) return "baris judul: bukan teks UTF-8 yang sah";
         if (kolom[k].empty()) return "baris judul: nama kolom ke-" + std::to_string(k + 1) + " kosong";
         for (size_t j = 0; j < k; ++j)
             if (kolom[j] == kolom[k]) return "baris judul: kolom \"" + kolom[k] + "\" ada dua kali";
@@ -185,18 +186,30 @@ std::string Tabel::bacaCsv(std::string_view isi) {
     size_t baris = 0;
     while (!csv.habis()) {
         const size_t nomor = csv.baris();
+        const size_t awalSel = sel.size(), awalTeks = teks.size();
+        bool utf8 = true;
         const size_t n = csv.rekaman(
             [&](std::string_view f) {
                 sel.push_back({static_cast<uint32_t>(teks.size()), static_cast<uint32_t>(f.size())});
                 teks.append(f);
+                utf8 = utf8 && (!longgar || SalahUtf8(f) == std::string_view::npos);
             },
             galat);
         if (!galat.empty()) return "baris " + std::to_string(nomor) + ": " + galat;
         if (n == 0) continue;
-        if (n != kolom.size())
-            return "baris " + std::to_string(nomor) + ": ada " + std::to_string(n) + " isian, mestinya " +
-                   std::to_string(kolom.size());
-        ++baris;
+        std::string salah;
+        if (!utf8) salah = "bukan teks UTF-8 yang sah";
+        else if (n != kolom.size())
+            salah = "ada " + std::to_string(n) + " isian, mestinya " + std::to_string(kolom.size());
+        if (salah.empty()) {
+            ++baris;
+            if (longgar) longgar->barisBerkas.push_back(nomor);
+            continue;
+        }
+        if (!longgar) return "baris " + std::to_string(nomor) + ": " + salah;
+        longgar->dilewati.push_back("baris " + std::to_string(nomor) + ": " + salah);
+        sel.resize(awalSel);
+        teks.resize(awalTeks);
     }
 
     bukaKosong(std::move(kolom));
@@ -206,11 +219,11 @@ std::string Tabel::bacaCsv(std::string_view isi) {
     return {};
 }
 
-std::string Tabel::buka(const std::filesystem::path& berkas) {
+std::string Tabel::buka(const std::filesystem::path& berkas, Longgar* longgar) {
     tutup();
     std::string isi;
     if (std::string alasan = BacaBerkas(berkas, isi); !alasan.empty()) return alasan;
-    return bacaCsv(isi);
+    return bacaCsv(isi, longgar);
 }
 
 std::string Tabel::keCsv() const {

@@ -40,11 +40,20 @@ public:
     const std::string& nama() const { return nama_; }
     bool terbuka() const { return terbuka_; }
 
+    // A reading that keeps the good rows of a damaged file: a row with the wrong number of
+    // cells or a cell that is not UTF-8 is left out and told in dilewati ("baris 12: ..."), and
+    // barisBerkas gives the line of the file on which each kept row starts.
+    struct Longgar {
+        std::vector<std::string> dilewati;
+        std::vector<size_t> barisBerkas;
+    };
+
     // Replaces the content by the CSV text. Returns an empty text, or what is wrong with it
-    // ("baris 12: ..." with the line of the file); the table is then closed.
-    std::string bacaCsv(std::string_view isi);
+    // ("baris 12: ..." with the line of the file); the table is then closed. With longgar, the
+    // bad rows are left out and told there instead.
+    std::string bacaCsv(std::string_view isi, Longgar* longgar = nullptr);
     // The same from a file. Returns an empty text, or why the file could not be read.
-    std::string buka(const std::filesystem::path& berkas);
+    std::string buka(const std::filesystem::path& berkas, Longgar* longgar = nullptr);
     // An open table with these columns and no rows.
     void bukaKosong(std::vector<std::string> kolom);
     void tutup();

@@ -227,25 +227,19 @@ IsianTempat FrmDaerah::isian() const {
     return i;
 }
 
-bool FrmDaerah::simpan(const std::string& alasan, const QString& pilih) {
-    if (!alasan.empty()) {
-        BukaPesan(this, QMessageBox::Warning, kJudul, q(alasan));
+bool FrmDaerah::simpan(const std::function<std::string(RegisterDaerah&)>& perubahan, const QString& pilih) {
+    if (const std::string tolak = koneksi_.ubahDaerah(perubahan); !tolak.empty()) {
+        BukaPesan(this, QMessageBox::Warning, kJudul, q(tolak));
         return false;
     }
-    const std::string gagal = koneksi_.WriteToFile(koneksi_.Daerah);
-    // The change stays in the list of this session even when the disk refused it.
     berubah_ = true;
     isiDaftar(pilih);
-    if (!gagal.empty()) {
-        BukaPesan(this, QMessageBox::Critical, kJudul, q(gagal));
-        return false;
-    }
     return true;
 }
 
 void FrmDaerah::tambah() {
     const IsianTempat i = isian();
-    if (simpan(koneksi_.registerDaerah().tambah(i), QString::fromStdString(i.nama).trimmed()))
+    if (simpan([&](RegisterDaerah& r) { return r.tambah(i); }, QString::fromStdString(i.nama).trimmed()))
         keterangan_->setText(QStringLiteral("\"%1\" ditambahkan dan disimpan.").arg(nama_->text().trimmed()));
 }
 
@@ -253,7 +247,7 @@ void FrmDaerah::ubah() {
     const QString lama = namaTerpilih();
     if (lama.isEmpty()) return;
     const IsianTempat i = isian();
-    if (simpan(koneksi_.registerDaerah().ubah(lama.toStdString(), i), QString::fromStdString(i.nama).trimmed()))
+    if (simpan([&](RegisterDaerah& r) { return r.ubah(lama.toStdString(), i); }, QString::fromStdString(i.nama).trimmed()))
         keterangan_->setText(QStringLiteral("\"%1\" diubah dan disimpan.").arg(nama_->text().trimmed()));
 }
 
@@ -263,7 +257,7 @@ void FrmDaerah::hapus() {
     BukaPesan(this, QMessageBox::Question, kJudul, QStringLiteral("Hapus \"%1\" dari daftar tempat?").arg(nama),
               QMessageBox::Yes | QMessageBox::No, [this, nama](QMessageBox::StandardButton jawab) {
                   if (jawab != QMessageBox::Yes) return;
-                  if (simpan(koneksi_.registerDaerah().hapus(nama.toStdString()), {}))
+                  if (simpan([&](RegisterDaerah& r) { return r.hapus(nama.toStdString()); }, {}))
                       keterangan_->setText(QStringLiteral("\"%1\" dihapus dari daftar.").arg(nama));
               });
 }

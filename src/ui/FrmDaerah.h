@@ -6,6 +6,9 @@
 
 #include <QDialog>
 
+#include <functional>
+#include <string>
+
 class QComboBox;
 class QLabel;
 class QLineEdit;
@@ -15,6 +18,7 @@ class QTableWidget;
 namespace falak {
 class ClsConnection;
 struct IsianTempat;
+class RegisterDaerah;
 }
 
 namespace falak::ui {
@@ -33,8 +37,9 @@ private:
     void tampilkanTerpilih();
     IsianTempat isian() const;
     QString namaTerpilih() const;
-    // Saves after a change made in memory; false, with the message shown, when refused.
-    bool simpan(const std::string& alasan, const QString& pilih);
+    // Makes one change to the register and saves it, on the file as it is now (another program
+    // may have changed it meanwhile); false, with the message shown, when refused.
+    bool simpan(const std::function<std::string(RegisterDaerah&)>& perubahan, const QString& pilih);
     void tambah();
     void ubah();
     void hapus();
