@@ -96,3 +96,48 @@ TEST_F(Perintah, ValuesAfterEqualsAndTheOldNameOfThePlaceOption) {
     EXPECT_EQ(k.status, 0) << k.err;
     EXPECT_EQ(k.out.rfind("Tempat: Pasuruan\n", 0), 0u);
 }
+
+// A book whose table is missing, emptied, cut short or holds words in a number cell does not
+// answer: the run stops with the table named and exit 1. No warning speaks of tables that no
+// available book reads.
+TEST_F(Perintah, ABookWithADamagedTableRefusesToRun) {
+    const std::string kepala = "Cari,mshTh,mshBln\n";
+    struct Kasus {
+        std::string tabel, isi, alasan;
+        bool ada = true;
+    };
+    const Kasus kasus[] = {
+        {"TRBTaadil", "", "berkas tidak ada", false},
+        {"TRBTaadil", "", "berkas kosong"},
+        {"TRBTaadil", "Cari,tdKsJah\n", "tabel kosong"},
+        {"TRBSyahru", "Cari,mshTh,mshBln\n1,0,0\n2,0\n", "baris 3: ada 2 isian, mestinya 3"},
+        {"TRBSyahru", "Cari,mshTh,mshBln\n1,0,0\n2,nol,0\n", "kolom mshTh: \"nol\" bukan angka"},
+        {"TafawutWIB", "", "berkas tidak ada", false},
+    };
+    for (const Kasus& k : kasus) {
+        uji::FolderUji f("falak-tabel");
+        f.tabel("Balad", "BaladIN,BaladAR,DarojatArdlu,DaqiqohArdlu,ArahArdlu,DarojatThul,DaqiqohThul,ArahThul,"
+                         "ZonaTime,Ketinggian\nPasuruan,Pasuruan,7,39,LS,112,56,BT,7,0\n");
+        if (k.ada) f.tabel(k.tabel, k.isi);
+        else std::filesystem::remove(f.lokasi().data / (k.tabel + ".csv"));
+        std::istringstream in;
+        std::ostringstream out, err;
+        EXPECT_EQ(cli::Jalankan({"hisab", "--kitab", "SN", "--tahun", "1445", "--bulan", "8"}, {f.lokasi(), in, out, err}),
+                  1)
+            << k.tabel << " " << k.alasan;
+        EXPECT_EQ(out.str(), "");
+        EXPECT_NE(err.str().find("falak hisab: Kitab Sullam al-Nairoin tidak bisa dihitung: tabel " + k.tabel), std::string::npos)
+            << err.str();
+        EXPECT_NE(err.str().find(k.alasan), std::string::npos) << err.str();
+    }
+    const Keluaran sehat = jalan({"semua", "--tahun", "1445", "--bulan", "8"});
+    EXPECT_EQ(sehat.status, 0);
+    EXPECT_EQ(sehat.err, "");
+}
+
+TEST_F(Perintah, YearsOutsideTheServedRangeAreRefused) {
+    for (const char* tahun : {"0", "-5", "3001", "9999999", "2147483647", "99999999999999999999"})
+        salahPakai({"semua", "--tahun", tahun, "--bulan", "8"}, "semua", "Tahun ");
+    salahPakai({"semua", "--tahun", "1445.5", "--bulan", "8"}, "semua", "Tahun \"1445.5\" bukan bilangan bulat");
+    for (const char* tahun : {"1", "3000"}) EXPECT_EQ(jalan({"semua", "--tahun", tahun, "--bulan", "12"}).status, 0);
+}

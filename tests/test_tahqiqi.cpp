@@ -3,6 +3,7 @@
 // al-Anwar's setting arc, and whole months against what happened in the sky.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -77,6 +78,30 @@ TEST_F(SesiTahqiqi, YearsSplitIntoGroupsAroundTheEpoch) {
 TEST_F(SesiTahqiqi, DaysRunReachTheTwentyNinth) {
     const int harap[8] = {28, 29, 30, 29, 29, 29, 27, 28};
     for (int d = 0; d <= 7; ++d) EXPECT_EQ(HariBerjalan(d), harap[d]) << d;
+}
+
+// The sun's equation changes sign at its apsides, where the table writes it as the circle less
+// it: the rows read there must still give a few seconds, not half a circle.
+TEST_F(SesiTahqiqi, SunsEquationReadAcrossItsChangeOfSign) {
+    auto detikBertanda = [](const Nilai& v) {
+        const double d = std::fmod(NilaiDesimal(JenisBusur, v) * (AmbilTanda(v) == 0 ? -1 : 1) + 540.0, 360.0) - 180.0;
+        return d * 3600;
+    };
+    // Rows 179 and 180 hold -58" and +1' 5"; half-way is +3.5".
+    std::array<Nilai, 5> b;
+    ws->taadil.TaadilBaris(b, 8, Nilai("05 29 30 00 00 1"), 1, false);
+    EXPECT_NEAR(detikBertanda(b[4]), 3.5, 1.0) << b[4].teks();
+    // Rows 359 and 360 hold +1' 54" and -4"; a quarter on is +1' 24.5".
+    ws->taadil.TaadilBaris(b, 8, Nilai("11 29 15 00 00 1"), 1, false);
+    EXPECT_NEAR(detikBertanda(b[4]), 84.5, 1.0) << b[4].teks();
+
+    // The month that ended Jumada al-Ula 1443 met the sun at its perigee: the ijtima' of
+    // 2 January 2022 at 18:33 UT. The hilal is sought at sunset of 3 January at Jombang, about
+    // 10:40 UT, where the apparent sun stood at 283 deg 1' 52" (an independent ephemeris).
+    tempat("Jombang");
+    bm->Hitung({1443, 5, false});
+    const double matahari = std::fmod(NilaiDesimal(JenisBusur, bm->Syams(2)) + 360.0, 360.0);
+    EXPECT_NEAR(matahari, 283.0312, 2 / 60.0) << bm->Syams(2).teks();
 }
 
 TEST_F(SesiTahqiqi, PlaceLongitudeMovesTheElements) {

@@ -166,6 +166,7 @@ int perintahNilai(const Argumen& a, const Lingkungan& l) {
     size_t nomor = 0;
     auto kerjakan = [&](const std::string& b) {
         ++nomor;
+        if (b.find_first_not_of(" \t\r") == std::string::npos) return;  // a blank line is no operation
         const HasilBaris h = hitungBaris(b);
         if (h.cacat) {
             adaCacat = true;

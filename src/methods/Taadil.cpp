@@ -111,6 +111,17 @@ Hasil suku(const Nilai& selisihArgumen, const Nilai& selisihEntri, int64_t n) {
     return KaliNilai(JenisBusur, TandaIkut, ModusLingkaran, selisihArgumen, *bagi);
 }
 
+// The difference of two neighbouring rows. A signed equation is written as the circle less it
+// where it is negative, so where it changes sign two neighbours stand at both ends of the
+// circle: the difference is taken the short way, as no two rows lie half a circle apart.
+Nilai selisihBaris(const Nilai& entri, const Nilai& entriBerikut) {
+    const Nilai d = KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, entri, entriBerikut);
+    if (NilaiDesimal(JenisBusur, d) <= 180) return d;
+    const Nilai putaran = darojah(360, 1, 2);
+    return d.tanda() == 0 ? TambahNilai(JenisBusur, TandaIkut, ModusLingkaran, d, putaran)
+                          : KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, d, putaran);
+}
+
 // The degree of longitude of the current row of the right ascension table, from its key.
 Nilai bujurBaris(const Tabel& t) {
     const int64_t cari = BulatGenap32(ValAngka(t.baca("Cari").value_or(""))).value_or(0);
@@ -199,7 +210,7 @@ Hasil ClsTaadil::TdlTarekhMasehi(int kode, const Nilai& entri, const Nilai& entr
     const Nilai lebih = KurangNilai(JenisBusur, TandaIkut, ModusBuruj, s, pangkal);
     // Also for rows of 12 minutes the divisor is n degrees: the term comes out sixty times
     // smaller than a linear one, and the treatises' digits follow from that.
-    return suku(lebih, KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, entri, entriBerikut), n);
+    return suku(lebih, selisihBaris(entri, entriBerikut), n);
 }
 
 Nilai ClsTaadil::TaadilSisa(const Nilai& entri, const Nilai& /*entriBerikut*/, const Nilai& suku) {

@@ -25,6 +25,7 @@
 //     moon's geocentric airless height and the elongation against the sky at the same instant.
 //
 // Run from the top of the repository (it reads data/): ./build/bin/akurasi
+// (with --rinci it lists every month of section 4: days run, Bu'd at the sunset, ijtima' - true)
 #include <swephexp.h>
 
 #include <array>
@@ -194,7 +195,8 @@ double jdSipil(const Nilai& tanggal) {
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
+    const bool rinci = argc > 1 && std::string(argv[1]) == "--rinci";
     swe_set_ephe_path(const_cast<char*>("/usr/share/libswe/ephe"));
     ClsConnection koneksi(CariLokasiData());
     Workspace ws(koneksi);
@@ -367,15 +369,17 @@ int main() {
                         swe_time_equ(kira, &e, err);
                         return kira - e;
                     };
-                    // The sun's equation read between the two rows where it changes sign: the
-                    // engine's difference across the wrap of the circle is nonsense there.
-                    if (std::fabs(derajat(buku->Tdl[0](2)) - derajat(buku->Tdl[0](3))) > 180) {
-                        ++lintas;
-                        continue;
-                    }
+                    // The sun's equation read between the two rows where it changes sign.
+                    const bool melintas = std::fabs(derajat(buku->Tdl[0](2)) - derajat(buku->Tdl[0](3))) > 180;
+                    if (melintas) ++lintas;
                     const double hari29 = jdSipil(*t29);
                     const double ijtima = keUt(hari29 + buku->geserHari, NilaiDesimal(3, buku->Ijtima(5)));
                     ij.tambah((ijtima - ijtimaAkhirBulan(tahun, bulan)) * 1440);
+                    if (rinci)
+                        std::printf("%-3s %d %2d  days run %s  Bu'd %+7.3f  ijtima' - true %+7.1f min%s\n", kode, tahun,
+                                    bulan, buku->Hari.c_str(),
+                                    (AmbilTanda(buku->Ijtima(1)) == 0 ? -1 : 1) * NilaiDesimal(3, buku->Ijtima(1)),
+                                    (ijtima - ijtimaAkhirBulan(tahun, bulan)) * 1440, melintas ? "  (sun's equation across its change of sign)" : "");
                     const double hariHilal = hari29 + buku->hariLagi;
                     const double gurub = keUt(hariHilal, NilaiDesimal(3, buku->Ijtima(4)));
                     const double gurubSejati = gurubSesudah(hariHilal - bujur / 360 + 0.25, lintang, bujur);
@@ -392,7 +396,7 @@ int main() {
                 }
             }
             std::printf("%-5s | %+6.1f %6.1f %+8.1f   | %+5.2f %5.2f %+7.2f   | %5.2f %+7.2f  | %5.2f %+7.2f   (%d months;"
-                        " %d left out: the sun's equation read across its change of sign)\n",
+                        " %d of them with the sun's equation read across its change of sign)\n",
                         kode, ij.rata(), ij.rataMutlak(), ij.maks, tg.rata(), tg.rataMutlak(), tg.maks,
                         matahari.rataMutlak(), matahari.maks, bulanS.rataMutlak(), bulanS.maks, ij.n, lintas);
             std::printf("%-5s   height - true at the sun's centre on the airless horizon: mean %+.2f, |.| %.2f, largest %+.2f\n",

@@ -132,7 +132,9 @@ int HariBerjalan(int d) {
 }
 
 // The days run: from the day the tables reach for the first of the month to the 29th of the
-// month, chosen by the weekday of the calendar's first against the tables'.
+// month, chosen by the weekday of the calendar's first against the tables'. The run's chosen
+// date holds only the year and the month, so the first's weekday and pasaran are the
+// calendar's own; as both count from the same Thursday epoch they agree, and 28 days are run.
 void KerangkaTahqiqi::hitungHari(int32_t tahun, int16_t bulan) {
     const Nilai jumlah = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, TarikhMajmu(1), TarikhMabsut(1), Syahr(1));
     const Nilai awal = ClsKesimpulan::ConvertToHijri(tahun, bulan, 1).value_or(Nilai());
