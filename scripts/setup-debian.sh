@@ -10,6 +10,13 @@ PAKET="build-essential cmake pkg-config googletest libgtest-dev libbenchmark-dev
   qt6-base-dev fontconfig fonts-hosny-amiri fonts-dejavu-core
   libxlsxwriter-dev python3-openpyxl poppler-utils"
 
+# The generator of the Earth's series reads an npm package, pinned by its lock file; without
+# npm (or its registry) the byte-for-byte check of that table is skipped.
+EFEMERIS="$(dirname "$0")/../tools/efemeris"
+if command -v npm >/dev/null 2>&1 && [ ! -d "$EFEMERIS/node_modules" ]; then
+  (cd "$EFEMERIS" && npm ci --no-audit --no-fund --silent) || echo "tools/efemeris: npm ci gagal; cek ERBumi dilewati"
+fi
+
 kurang=""
 for p in $PAKET; do
   dpkg -s "$p" >/dev/null 2>&1 || kurang="$kurang $p"

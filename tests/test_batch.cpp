@@ -30,8 +30,8 @@ struct Batch : testing::Test {
     }
 };
 
-// The treatises that have modules, in the order of the tree.
-const std::vector<std::string> kUrutan = {"SN", "FR", "IDB1", "SH", "TZ", "KW1", "FK", "BM", "NA"};
+// The treatises that have modules, in the order of the tree: the modern reckoning last.
+const std::vector<std::string> kUrutan = {"SN", "FR", "IDB1", "SH", "TZ", "KW1", "FK", "BM", "NA", "ER"};
 
 }  // namespace
 

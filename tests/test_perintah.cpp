@@ -74,7 +74,7 @@ TEST_F(Perintah, UsageErrorsOfEverySubcommandInOneStyle) {
     salahPakai({"semua", "--tahun", "1445", "--bulan", "8x"}, "semua", "bulan \"8x\" tidak ada");
     salahPakai({"hisab", "--kitab", "SN", "--bulan", "8"}, "hisab", "pilihan --tahun wajib diisi");
     salahPakai({"hisab", "--kitab", "semua", "--tahun", "1445", "--bulan", "8"}, "hisab", "hisab memakai satu kitab");
-    salahPakai({"setahun", "--kitab", "ER", "--tahun", "1445"}, "setahun", "kitab Ephemeris belum tersedia");
+    salahPakai({"setahun", "--kitab", "IM", "--tahun", "1445"}, "setahun", "kitab Irsyadu al-Murid belum tersedia");
     salahPakai({"setahun", "--kitab", "SN", "--tahun", "1445", "--tahun", "1446"}, "setahun",
                "pilihan --tahun ditulis dua kali");
     salahPakai({"setahun", "--kitab", "SN", "--tahun"}, "setahun", "pilihan --tahun belum diberi isian TAHUN");

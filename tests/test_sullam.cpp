@@ -94,7 +94,7 @@ TEST_F(SesiUji, YearCheckAndUnavailableTreatises) {
     EXPECT_EQ(h.pesan->judul, "Ojok kesusu..");
     EXPECT_EQ(h.pesan->teks, "Tahun belum diisi.\nSilahkan tentukan tahun sebelum Anda mengakses data.");
     EXPECT_TRUE(ws->mnuProsesIjSub("SN", "-1", 8, "Jakarta").pesan);
-    EXPECT_TRUE(ws->mnuProsesIjSub("ER", "1445", 8, "Jakarta").pesan);
+    EXPECT_TRUE(ws->mnuProsesIjSub("IM", "1445", 8, "Jakarta").pesan);
     EXPECT_TRUE(ws->lembar.empty());
 }
 

@@ -102,13 +102,14 @@ class Buku(unittest.TestCase):
     def test_every_treatise_of_a_month_with_clashing_captions(self):
         wb = openpyxl.load_workbook(self.tulis("semua.xlsx", "semua", "--tahun", "1445", "--bulan", "8"))
         judul = "Hisab Awal Bulan 1445 H. 8"
-        self.assertEqual(wb.sheetnames, [judul] + [f"{judul}-{i}" for i in range(1, 9)] + ["Kesimpulan"])
+        self.assertEqual(wb.sheetnames, [judul] + [f"{judul}-{i}" for i in range(1, 10)] + ["Kesimpulan"])
         # Syamsu al-Hilal's sheet, the fourth, is 12 columns wide.
         self.assertEqual(wb.worksheets[3].max_column, 12)
         kepala = [r[0].value for r in wb["Kesimpulan"].iter_rows() if r[0].font.b]
         self.assertEqual(kepala, ["Sullam al-Nairoin", "Fathu al-Ro'uf al-Mannan", "Ittifaq Dzatu al-Bain Taqribi",
                                   "Syamsu al-Hilal", "Tadzkirotu al-Ikhwan", "Khulashotu al-Wafiyah Taqribi",
-                                  "Faidlu al-Karim", "Badi'atu al-Mitsal", "Nuru al-Anwar"])
+                                  "Faidlu al-Karim", "Badi'atu al-Mitsal", "Nuru al-Anwar",
+                                  "Hisab Awal Bulan Romadon 1445 H. Metode EPHEMERIS Untuk daerah Pasuruan"])
 
     def test_a_year_of_one_treatise(self):
         wb = openpyxl.load_workbook(self.tulis("setahun.xlsx", "setahun", "--kitab", "FR", "--tahun", "1446"))

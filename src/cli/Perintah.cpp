@@ -64,6 +64,8 @@ const std::vector<Opsi>& DaftarOpsi() {
         {.nama = "--markaz", .isian = "NAMA", .keterangan = "tempat dari daftar tempat (huruf besar kecil sama saja)",
          .bawaan = "Pasuruan", .alias = "--tempat"},
         {"--json", "", "keluaran JSON"},
+        {"--rumus", "", "lembar rumus kitab tahqiqi sesudah kesimpulan"},
+        {"--deltat", "", "Ephemeris memakai delta T: jam ijtima' dalam waktu universal (bawaan: tanpa, seperti kitabnya)"},
         {"--xlsx", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .xlsx"},
 #ifdef FALAK_PDF
         {"--pdf", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .pdf (satu halaman A4)"},
@@ -88,9 +90,10 @@ const std::vector<Opsi>& DaftarOpsi() {
 const std::vector<Perintah>& DaftarPerintah() {
     static const std::vector<Perintah> daftar = {
         {"hisab", "", 0, 0,
-         {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--pdf"}},
+         {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--pdf"},
+          {"--rumus"}, {"--deltat"}},
          "ijtima' dan hilal akhir bulan itu menurut satu kitab: lembar kerja dan kesimpulannya", perintahHisab},
-        {"semua", "", 0, 0, {{"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
+        {"semua", "", 0, 0, {{"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--deltat"}},
          "ijtima' dan awal bulan menurut semua kitab, satu baris sekitab", perintahSemua},
         {"setahun", "", 0, 0, {{"--kitab"}, {"--tahun", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
          "dua belas bulan setahun menurut satu kitab (--kitab semua: menurut semua kitab)", perintahSetahun},

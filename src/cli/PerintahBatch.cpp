@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <optional>
 #include <ostream>
 
 #include "cli/Json.h"
@@ -12,6 +13,7 @@
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "export/Excel.h"
+#include "methods/tahqiqi/Ephemeris.h"
 #include "run/Workspace.h"
 
 namespace falak::cli {
@@ -46,6 +48,44 @@ std::string hariIjtimaKata(const Ringkasan& g) {
 std::string tinggiKata(const Nilai& tinggi) {
     const std::string s = ClsKesimpulan::IrtifaHilal(tinggi, true);
     return s.substr(0, s.find(" / "));
+}
+
+// The instant of the ijtima' in minutes on the zone's clock, from the civil day and the zone
+// time of the conclusion's words ("hh.mm WIS, hh.mm WIB"); none when the run placed none.
+std::optional<double> menitIjtima(const Ringkasan& g) {
+    const size_t koma = g.jamIjtima.find(',');
+    if (g.tanggalSipil.kosongTeks() || koma == std::string::npos) return std::nullopt;
+    const size_t awal = g.jamIjtima.find_first_of("0123456789", koma);
+    if (awal == std::string::npos) return std::nullopt;
+    const double jam = ValAngka(g.jamIjtima.substr(awal, 2)), menit = ValAngka(g.jamIjtima.substr(awal + 3, 2));
+    const Nilai& t = g.tanggalSipil;
+    return HariJulianER(AmbilTingkat(t, 6), AmbilTingkat(t, 7), AmbilTingkat(t, 8)) * 1440 + jam * 60 + menit;
+}
+
+double derajatTinggi(const Nilai& tinggi) { return (AmbilTanda(tinggi) == 0 ? -1 : 1) * NilaiDesimal(3, tinggi); }
+
+// How far a book stands from the modern reckoning of the same month: its ijtima' in minutes
+// of time and its height in minutes of arc, both less the modern one's.
+struct SelisihER {
+    std::optional<double> ijtima;
+    double tinggi = 0;
+};
+
+std::optional<SelisihER> selisihER(const Workspace::HasilRun& r, const std::vector<Workspace::HasilRun>& runs) {
+    for (const auto& er : runs)
+        if (er.modul->kode == "ER" && er.bulan == r.bulan && er.tahun == r.tahun) {
+            SelisihER s;
+            const auto a = menitIjtima(r.ringkasan), b = menitIjtima(er.ringkasan);
+            if (a && b) s.ijtima = *a - *b;
+            s.tinggi = (derajatTinggi(r.ringkasan.tinggiHilal) - derajatTinggi(er.ringkasan.tinggiHilal)) * 60;
+            return s;
+        }
+    return std::nullopt;
+}
+
+std::string bertanda(double x) {
+    const std::string s = FormatTetap(x, 1);
+    return x > 0 && s != "0.0" ? "+" + s : s;
 }
 
 using Baris = std::vector<std::string>;
@@ -83,7 +123,11 @@ void tulisJson(std::ostream& out, const Workspace& ws, const std::vector<Workspa
             << CetakAngka((AmbilTanda(g.tinggiHilal) == 0 ? -1 : 1) * NilaiDesimal(3, g.tinggiHilal))
             << ", \"kata\": " << jsonTeks(tinggiKata(g.tinggiHilal)) << "},\n     \"awalBulan\": {\"tanggal\": "
             << (g.awalBulan.kosongTeks() ? "null" : jsonTeks(tanggalIso(g.awalBulan))) << ", \"hari\": "
-            << jsonTeks(tanggalKata(g.awalBulan)) << "},\n     \"kesimpulan\": [";
+            << jsonTeks(tanggalKata(g.awalBulan)) << "},";
+        if (const auto d = selisihER(r, runs))
+            out << "\n     \"selisihER\": {\"ijtimaMenit\": " << (d->ijtima ? CetakAngka(*d->ijtima) : "null")
+                << ", \"tinggiMenit\": " << CetakAngka(d->tinggi) << "},";
+        out << "\n     \"kesimpulan\": [";
         for (size_t j = 0; j < r.kesimpulan.size(); ++j) out << (j ? ", " : "") << jsonTeks(r.kesimpulan[j]);
         out << "]}";
     }
@@ -95,6 +139,7 @@ using Jalankan = std::function<Workspace::HasilBatch(Workspace&, const std::stri
 int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalankan& batch) {
     ClsConnection koneksi(l.lokasi);
     Workspace ws(koneksi);
+    ws.sesi.deltaT = a.ada("--deltat");
     l.err << LaporanMasalah(ws.masalahTabel());  // one line a table, each ended
     const auto tempat = CariTempat(koneksi.Daerah, a.teks("--markaz"));
     if (!tempat)
@@ -116,12 +161,18 @@ int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalan
     std::vector<Baris> tabel;
     Baris kepala = {"Kitab", "Ijtima'", "Jam ijtima'", "Tinggi", "Awal bulan"};
     if (kolomBulan) kepala.insert(kepala.begin(), "Bulan");
+    // Every book against the modern reckoning, when it ran among them.
+    const bool banding = !kolomBulan && std::any_of(h.ringkas.begin(), h.ringkas.end(),
+                                                    [](const auto& r) { return r.modul->kode == "ER"; });
+    if (banding) kepala.insert(kepala.end(), {"Ijtima' - ER (menit)", "Tinggi - ER (')"});
     tabel.push_back(kepala);
     for (const auto& r : h.ringkas) {
         const Ringkasan& g = r.ringkasan;
         Baris b = {std::string(r.modul->kode), hariIjtimaKata(g), g.jamIjtima, tinggiKata(g.tinggiHilal),
                    tanggalKata(g.awalBulan)};
         if (kolomBulan) b.insert(b.begin(), std::string(kBarisBulan[static_cast<size_t>(r.bulan - 1)]).substr(5));
+        if (const auto d = banding ? selisihER(r, h.ringkas) : std::nullopt)
+            b.insert(b.end(), {d->ijtima ? bertanda(*d->ijtima) : "-", bertanda(d->tinggi)});
         tabel.push_back(std::move(b));
     }
     l.out << "Tempat: " << IsolasiNama(ws.sesi.tempat.nama) << "\n";

@@ -18,7 +18,7 @@ namespace falak::cli {
 
 namespace {
 
-void tulisJson(std::ostream& out, const LembarKerja& tab, const Sesi& sesi, const Tempat& t) {
+void tulisJson(std::ostream& out, const LembarKerja& tab, const Sesi& sesi, const Tempat& t, const LembarRumus* rumus) {
     out << "{\n  \"kitab\": " << jsonTeks(std::string(tab.modul->kode)) << ",\n  \"kunci\": " << jsonTeks(tab.kunci)
         << ",\n  \"judul\": " << jsonTeks(tab.judul) << ",\n  \"tahun\": " << AmbilTingkat(sesi.tanggalPilihan, 6)
         << ",\n  \"bulan\": " << sesi.barisBulan + 1 << ",\n  \"tempat\": {\"nama\": " << jsonTeks(t.nama)
@@ -47,7 +47,17 @@ void tulisJson(std::ostream& out, const LembarKerja& tab, const Sesi& sesi, cons
     }
     out << "]},\n  \"kesimpulan\": [";
     for (size_t i = 0; i < tab.kesimpulan.size(); ++i) out << (i ? ",\n" : "\n") << "    " << jsonTeks(tab.kesimpulan[i]);
-    out << "\n  ]\n}\n";
+    out << "\n  ]";
+    if (rumus) {
+        out << ",\n  \"rumus\": {\"judul\": " << jsonTeks(rumus->judul) << ", \"baris\": [";
+        for (size_t i = 0; i < rumus->baris.size(); ++i) {
+            const BarisRumus& b = rumus->baris[i];
+            out << (i ? ",\n" : "\n") << "    {\"nama\": " << jsonTeks(b.nama) << ", \"rumuz\": " << jsonTeks(b.rumuz)
+                << ", \"isi\": " << jsonTeks(b.isi) << "}";
+        }
+        out << "\n  ]}";
+    }
+    out << "\n}\n";
 }
 
 }  // namespace
@@ -57,6 +67,7 @@ int perintahHisab(const Argumen& a, const Lingkungan& l) {
     if (kitab == "semua") throw SalahPakai{"hisab memakai satu kitab; untuk semua kitab pakailah falak semua"};
     ClsConnection koneksi(l.lokasi);
     Workspace ws(koneksi);
+    ws.sesi.deltaT = a.ada("--deltat");
     l.err << LaporanMasalah(ws.masalahTabel());  // one line a table, each ended
     const auto tempat = CariTempat(koneksi.Daerah, a.teks("--markaz"));
     if (!tempat) throw SalahPakai{"daerah \"" + a.teks("--markaz") + "\" tidak ada di daftar tempat (lihat: falak tempat daftar)"};
@@ -76,12 +87,17 @@ int perintahHisab(const Argumen& a, const Lingkungan& l) {
         return Tolak(a, l, "--pdf tidak tersedia: falak ini dibangun tanpa Qt");
 #endif
     }
+    const auto rumus = ws.rumus.tampil(tab.kunci);
     if (a.ada("--json")) {
-        tulisJson(l.out, tab, ws.sesi, ws.sesi.tempat);
+        tulisJson(l.out, tab, ws.sesi, ws.sesi.tempat, rumus ? rumus->lembar : nullptr);
         return 0;
     }
     l.out << tab.judul << " - " << ws.sesi.namaKitab << "\n\n" << tampilLembar(tab.lembar) << "\n";
     for (const std::string& baris : tab.kesimpulan) l.out << baris << "\n";
+    if (a.ada("--rumus")) {
+        if (!rumus) return Tolak(a, l, "kitab " + std::string(tab.modul->nama) + " tidak punya lembar rumus");
+        l.out << "\n" << rumus->judul << "\n\n" << rumus->lembar->halaman;
+    }
     return 0;
 }
 

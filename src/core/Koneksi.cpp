@@ -13,7 +13,7 @@ std::vector<Tabel*> ClsConnection::semua() {
     return {&Daerah,      &ClearTxtMargen,  &Lines,      &ListTxt,     &MergenExcel,    &Names,
             &Refraksi,        &TafawutWIB, &TQQDaqoiqAhTaf, &TQQImkanGerhana, &TQQRumuz,
             &TQQSaah,     &TQQSyahru,       &TQQTaadil,  &TQQthMab,    &TQQYaumTam,     &TRBSyahru,
-            &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2,
+            &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2,     &ERBumi,
             &TaadilKal1,  &TaadilKal2,      &TaadilKal3};
 }
 
@@ -43,6 +43,10 @@ std::string PeriksaIsi(const Tabel& tabel) {
     for (size_t k = 0; k < kolom.size(); ++k) {
         // Texts: mansion names, labels, and the sign ("+" or "-") of the daqa'iq tafawut.
         if (kolom[k] == "mn" || kolom[k] == "IsiText" || kolom[k] == "Tanda" || kolom[k].starts_with("Nama")) continue;
+        // The names of the series' terms, and the texts of the formula sheets.
+        if (kolom[k] == "Deret" || kolom[k].find("Nama") != std::string::npos ||
+            kolom[k].find("Rumuz") != std::string::npos || kolom[k].find("Var") != std::string::npos)
+            continue;
         for (size_t b = 0; b < tabel.jumlahBaris(); ++b) {
             const std::string_view sel = tabel.sel(b, k);
             if (!sel.empty() && !AdalahAngka(sel))

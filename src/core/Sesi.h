@@ -26,6 +26,7 @@ struct Sesi {
     int barisBulan = 0;                // selected row of the month list, 0 to 11
     std::string tahunHijri;            // text of the Hijri year box
     std::string namaKitab;             // the treatise of the sheet being worked
+    bool deltaT = false;               // the modern reckoning takes its hours as universal time
 
     // A label by position; empty past the end of the list.
     const std::string& labelKe(size_t i) const;

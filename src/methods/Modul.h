@@ -13,6 +13,7 @@
 #include "core/Nilai.h"
 #include "core/Sheet.h"
 #include "methods/Baris.h"
+#include "rumus/Rumus.h"
 
 namespace falak {
 
@@ -59,6 +60,7 @@ struct HasilHitung {
     std::vector<std::string> kesimpulan;  // the heading first
     std::vector<BarisTercatat> baris;     // every row of the run, named as the book names it
     Ringkasan ringkasan;
+    std::optional<LembarRumus> rumus;     // the formula sheet of a precise book's run
     std::optional<RingkasanGerhana> gerhana;  // an eclipse run that found one
 
     // A new sheet at the end of the list, to be painted.

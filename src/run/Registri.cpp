@@ -2,6 +2,7 @@
 
 #include "eclipse/lunar/KhusufSullam.h"
 #include "eclipse/solar/KusufSullam.h"
+#include "methods/tahqiqi/Ephemeris.h"
 #include "methods/taqribi/FaidlulKarim.h"
 #include "methods/taqribi/FathurRouf.h"
 #include "methods/taqribi/IttifaqDzatilBain.h"
@@ -64,7 +65,8 @@ const std::vector<EntriModul>& DaftarModul() {
         {"KW2", Ij, 36, "IjKW2_", "Khulashotu al-Wafiyah Tahqiqi", "Khulashotu al-Wafiyah (Tahqiqi)", Tahqiqi, {},
          nullptr},
         {"IM", Ij, 45, "IjIM_", "Irsyadu al-Murid", "Irsyadu al-Murid", Tahqiqi, {}, nullptr},
-        {"ER", Ij, 48, "IjER_", "Ephemeris", "Ephemeris", Tahqiqi, {}, nullptr},
+        {"ER", Ij, 48, "IjER_", "Ephemeris", "Ephemeris", Tahqiqi, tabelBulan({"ERBumi", "Refraksi", "TQQRumuz"}),
+         buat<Ephemeris>},
         {"SN", Hs, 3, "HsSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi,
          tabelBulan({"TRBSyahru", "TRBTaadil"}), buat<KhusufSullam>},
         {"FR", Hs, 7, "HsFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},

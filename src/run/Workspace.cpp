@@ -213,6 +213,8 @@ LembarKerja* Workspace::Proses(const EntriModul& entri, Modul& m, int32_t tahun,
         tab->gerhana = h.gerhana;
         lembar.push_back(std::move(tab));
     }
+    // The formula sheet stays under the key of the run's first tab.
+    if (h.rumus && pertama < lembar.size()) rumus.tambah(lembar[pertama]->kunci, std::move(*h.rumus));
     return lembar.at(pertama).get();
 }
 

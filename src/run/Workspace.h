@@ -135,6 +135,7 @@ public:
     ClsTaadil taadil;
     Kemajuan kemajuan;
     std::vector<std::unique_ptr<LembarKerja>> lembar;
+    DaftarRumus rumus;  // the formula sheets of the precise books' runs, by tab
 
 private:
     // The solar eclipse's refusal of a place whose latitude its tables do not hold.

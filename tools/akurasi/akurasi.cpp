@@ -19,6 +19,10 @@
 //     at their tables' place (112 13 E): the ijtima' in minutes against the true conjunction,
 //     the height against the true geocentric airless height at the sunset the book reckons,
 //     and, at that sunset, the book's true sun and true moon against their apparent places.
+//  5. The modern reckoning (Ephemeris), every month of 1400 to 1500 H at Jakarta and at Makkah,
+//     as the book has it and with delta T: its ijtima' against the true conjunction (universal
+//     time), its sunset against the true sunset of the same day, and at its own sunset the
+//     moon's geocentric airless height and the elongation against the sky at the same instant.
 //
 // Run from the top of the repository (it reads data/): ./build/bin/akurasi
 // (with --rinci it lists every month of section 4: days run, Bu'd at the sunset, ijtima' - true)
@@ -34,6 +38,7 @@
 #include "core/FungsHisab.h"
 #include "core/Kalender.h"
 #include "core/Koneksi.h"
+#include "methods/tahqiqi/Ephemeris.h"
 #include "methods/taqribi/KerangkaTaqribi.h"
 #include "methods/taqribi/SyamsulHilal.h"
 #include "methods/tahqiqi/KerangkaTahqiqi.h"
@@ -142,6 +147,45 @@ double waktuHakiki(double jdUt, double bujur) {
     char err[256];
     swe_time_equ(jdUt, &e, err);
     return jdUt + bujur / 360 + e;
+}
+
+double elongasi(double jdUt) {
+    double m[6], s[6];
+    posisi(jdUt, SE_MOON, 0, m);
+    posisi(jdUt, SE_SUN, 0, s);
+    const double r = M_PI / 180;
+    return std::acos(std::cos((m[0] - s[0]) * r) * std::cos(m[1] * r) * std::cos(s[1] * r) +
+                     std::sin(m[1] * r) * std::sin(s[1] * r)) / r;
+}
+
+// The modern reckoning of every month of 1400-1500 H at one place, against the sky.
+void ukurEphemeris(Workspace& ws, const char* tempat, double lintang, double bujur, bool deltaT) {
+    ws.pilihTempat(tempat);
+    ws.sesi.deltaT = deltaT;
+    auto* er = dynamic_cast<Ephemeris*>(ws.modul("ER"));
+    Stat ij, gurub, tinggi, elong;
+    for (int tahun = 1400; tahun <= 1500; ++tahun)
+        for (int bulan = 1; bulan <= 12; ++bulan) {
+            er->HitungIjtimaER(tahun, static_cast<int16_t>(bulan), false);
+            const auto& R = er->ERHasil;
+            const Nilai& t0 = er->ERTanggalAwal;
+            const double jd0 = HariJulianER(AmbilTingkat(t0, 6), AmbilTingkat(t0, 7), AmbilTingkat(t0, 8));
+            const double jdIjtima = jd0 + (R[8] + (er->ERGeser ? 24 : 0) - R[7]) / 24;
+            ij.tambah((jdIjtima - ijtimaSejati(jdIjtima)) * 1440);
+            // Its sunset, on the clock of the second day of its table, and the sky's.
+            const double jdGurub = jd0 + (24 + R[30]) / 24;
+            gurub.tambah((jdGurub - gurubSesudah(jd0 + 1 + (12 - bujur / 15) / 24, lintang, bujur)) * 1440);
+            tinggi.tambah((R[35] - tinggiGeosentris(jdGurub, lintang, bujur)) * 60);
+            const double x = std::cos((er->BacaJamER(er->ERThulQomar, R[30]) - er->BacaJamER(er->ERThulHakiki, R[30])) *
+                                      M_PI / 180) *
+                             std::cos(er->BacaJamER(er->ERArdlQomar, R[30]) * M_PI / 180);
+            elong.tambah((std::acos(x) * 180 / M_PI - elongasi(jdGurub)) * 60);
+        }
+    ws.sesi.deltaT = false;
+    std::printf("%-8s %-7s | %+6.2f %6.2f %+7.2f | %+6.2f %6.2f %+7.2f | %+6.2f %6.2f %+7.2f | %+6.2f %6.2f %+7.2f | %d\n",
+                tempat, deltaT ? "delta T" : "book", ij.rata(), ij.rataMutlak(), ij.maks, gurub.rata(), gurub.rataMutlak(),
+                gurub.maks, tinggi.rata(), tinggi.rataMutlak(), tinggi.maks, elong.rata(), elong.rataMutlak(), elong.maks,
+                ij.n);
 }
 
 double jdSipil(const Nilai& tanggal) {
@@ -358,6 +402,14 @@ int main(int argc, char** argv) {
             std::printf("%-5s   height - true at the sun's centre on the airless horizon: mean %+.2f, |.| %.2f, largest %+.2f\n",
                         kode, tgPusat.rata(), tgPusat.rataMutlak(), tgPusat.maks);
         }
+    }
+
+    std::printf("\n5. Ephemeris, every month of 1400-1500 H (ER - sky; mean, mean |.|, largest)\n");
+    std::printf("%-8s %-7s | ijtima' (min of time)   | sunset (min of time)    | height [35] (arcmin)    | "
+                "elongation (arcmin)     | months\n", "place", "");
+    for (bool deltaT : {false, true}) {
+        ukurEphemeris(ws, "Jakarta", -(6 + 15 / 60.0), 106 + 52 / 60.0, deltaT);
+        ukurEphemeris(ws, "Makkah", 21 + 25 / 60.0, 39 + 57 / 60.0, deltaT);
     }
     return 0;
 }

@@ -123,6 +123,20 @@ def tahqiqi(hasil):
     return [], [], lines
 
 
+def ephemeris():
+    """The sheet of 106 by 12 drawn by frames.ephemeris: the hourly table under its two rows of
+    headings, then the reckoning under its own; its labels are merged already."""
+    lines = []
+
+    def garis(r, sisi):
+        lines.append(f"{r}|{sisi}")
+
+    garis(rentang(1, 0, 53, 11), KOTAK)
+    garis(rentang(3, 0, 3, 11), BAWAH + LUAR)
+    kotakBlok(garis, 55, 0, 105, 11)
+    return [], [], lines
+
+
 PERIKSA = "--verify" in sys.argv[1:]
 USANG = []
 
@@ -158,6 +172,7 @@ def main():
         "FK": taqribi(29, waktu=True, tempat=(26, 27)),
         "BM": tahqiqi(32),
         "NA": tahqiqi(29),
+        "ER": ephemeris(),
     }
     kode = list(sheets)
     tulis("MergenExcel.csv", [f"Mergn{x}" for x in kode], [s[0] for s in sheets.values()])

@@ -375,6 +375,29 @@ def tulis(nama, kepala, baris):
         fh.write(buf.getvalue())
 
 
+def ephemeris():
+    """Ephemeris: a grid of 106 by 12, read from the left. The hourly table (rows 4 to 53:
+    date, hour, the Sun's four columns, the Moon's six) under its headings in Arabic and in
+    Indonesian, then the reckoning (rows 56 to 105) under its own heading."""
+    f = []
+
+    def label(teks, baris, k1, k2=None):
+        f.append((teks, baris, k1, k1 if k2 is None else k2))
+
+    label("الشمس  Matahari", 1, 2, 5)
+    label("القمر  Bulan", 1, 6, 11)
+    kolom = [("التاريخ", "Tanggal"), ("الساعة", "Jam (GMT)"),
+             ("الطول الظاهري", "Bujur Tampak"), ("الميل", "Deklinasi"), ("نصف القطر", "Semi Diameter"),
+             ("تعديل الوقت", "Perata Waktu"),
+             ("الطول الظاهري", "Bujur Tampak"), ("العرض", "Lintang"), ("الميل", "Deklinasi"),
+             ("اختلاف المنظر", "Horizontal Parallax"), ("نصف القطر", "Semi Diameter"), ("النور", "Fraksi Iluminasi")]
+    for k, (arab, indonesia) in enumerate(kolom):
+        label(arab, 2, k)
+        label(indonesia, 3, k)
+    label("حساب الاجتماع والهلال  Hisab Ijtima' dan Hilal", 55, 0, 11)
+    return f
+
+
 def main():
     frames = {
         "SN": sullam(),
@@ -389,6 +412,7 @@ def main():
         "SNTK": koreksi_kusuf(),
         "BM": tahqiqi(HASIL_BM),
         "NA": tahqiqi(HASIL_NA),
+        "ER": ephemeris(),
     }
     panjang = max(len(v) for v in frames.values())
     kolom = [f"{nama}{x}" for x in frames for nama in ("Nama", "Baris", "Kolom1", "Kolom2")]
