@@ -9,7 +9,9 @@
 #include <sstream>
 
 #include "SesiUji.h"
+#include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "core/Tingkatan.h"
 #include "methods/tahqiqi/Ephemeris.h"
 #include "run/Workspace.h"
 
@@ -118,6 +120,19 @@ TEST_F(SesiER, TheWorkedStepOfDecember2002) {
     // The place's correction of zone 7 at 106° 49' E; the sunset near 17.9 WIB.
     EXPECT_NEAR(R[18], (105 - dms(106, 49, 0)) / 15, 1e-12);
     EXPECT_NEAR(R[20], 17.9, 0.2);
+}
+
+// The ijtima' that ends Dzulhijjah 1455 falls as the Sun passes 0° of longitude: 20 March 2034
+// at 10:14:23 UT, 17:14:23 WIB, with the Sun at 359° 52' (an independent ephemeris). The hour
+// of the table in which the Moon passes 360° must read as half a degree, not as a whole circle,
+// or the ijtima' lands days away and the table is turned to the wrong page.
+TEST_F(SesiER, AnIjtimaAsTheSunPassesZeroDegrees) {
+    ws->pilihTempat("Jakarta");
+    ws->mnuProsesIjSub("ER", "1455", 12, "Jakarta");
+    EXPECT_EQ(AmbilTingkat(er->ERHariIjtima, MedanTahun), 2034);
+    EXPECT_EQ(AmbilTingkat(er->ERHariIjtima, MedanBulan), 3);
+    EXPECT_EQ(AmbilTingkat(er->ERHariIjtima, MedanTanggal), 20);
+    EXPECT_NEAR(er->ERHasil[8], 17 + 14 / 60.0 + 23 / 3600.0, 3.0 / 60);
 }
 
 // A zone other than 7, 8 or 9 reckons from its own meridian: zone 6 at 95° 19' E.

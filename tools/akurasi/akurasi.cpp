@@ -171,11 +171,17 @@ void ukurEphemeris(Workspace& ws, const char* tempat, double lintang, double buj
             const Nilai& t0 = er->ERTanggalAwal;
             const double jd0 = HariJulianER(AmbilTingkat(t0, 6), AmbilTingkat(t0, 7), AmbilTingkat(t0, 8));
             const double jdIjtima = jd0 + (R[8] + (er->ERGeser ? 24 : 0) - R[7]) / 24;
-            ij.tambah((jdIjtima - ijtimaSejati(jdIjtima)) * 1440);
+            const double selisihIjtima = (jdIjtima - ijtimaSejati(jdIjtima)) * 1440;
+            ij.tambah(selisihIjtima);
             // Its sunset, on the clock of the second day of its table, and the sky's.
             const double jdGurub = jd0 + (24 + R[30]) / 24;
             gurub.tambah((jdGurub - gurubSesudah(jd0 + 1 + (12 - bujur / 15) / 24, lintang, bujur)) * 1440);
-            tinggi.tambah((R[35] - tinggiGeosentris(jdGurub, lintang, bujur)) * 60);
+            const double selisihTinggi = (R[35] - tinggiGeosentris(jdGurub, lintang, bujur)) * 60;
+            tinggi.tambah(selisihTinggi);
+            // A month off by more than an hour or a degree is named, so that it can be looked into.
+            if (std::abs(selisihIjtima) > 60 || std::abs(selisihTinggi) > 60)
+                std::fprintf(stderr, "ER %s %s %d/%d: ijtima' %+.0f min, height %+.0f'\n", tempat,
+                             deltaT ? "delta T" : "book", bulan, tahun, selisihIjtima, selisihTinggi);
             const double x = std::cos((er->BacaJamER(er->ERThulQomar, R[30]) - er->BacaJamER(er->ERThulHakiki, R[30])) *
                                       M_PI / 180) *
                              std::cos(er->BacaJamER(er->ERArdlQomar, R[30]) * M_PI / 180);

@@ -273,6 +273,15 @@ double azimut(double delta, double t, double phi) {
     return a >= 0 ? 90 - a : -90 - a;
 }
 
+double selisihBusur(double a, double b) {
+    // The short way round from b to a, so that an hour in which a body passes 0° reads as the
+    // fraction of a degree it is, not as nearly a whole circle.
+    double d = std::fmod(a - b, 360.0);
+    if (d >= 180) d -= 360;
+    if (d < -180) d += 360;
+    return d;
+}
+
 }  // namespace
 
 DeretBumi DeretBumi::baca(Tabel& tabel) {
@@ -462,12 +471,12 @@ void Ephemeris::IjtimaER() {
     R[0] = s > 25 ? static_cast<double>(s) - 25 : static_cast<double>(s);
     R[1] = ERThulHakiki(s);
     R[2] = ERThulHakiki(s + 1);
-    R[3] = std::abs(R[1] - R[2]);
+    R[3] = std::abs(selisihBusur(R[1], R[2]));
     R[4] = ERThulQomar(s);
     R[5] = ERThulQomar(s + 1);
-    R[6] = std::abs(R[4] - R[5]);
+    R[6] = std::abs(selisihBusur(R[4], R[5]));
     R[7] = k_.sesi.tempat.zona;
-    R[8] = (R[1] - R[4]) / (R[6] - R[3]) + static_cast<double>(s - 1) + R[7];
+    R[8] = selisihBusur(R[1], R[4]) / (R[6] - R[3]) + static_cast<double>(s - 1) + R[7];
     jamIjtimaMentah_ = R[8];
     if (R[8] > 24) {
         R[8] -= 24;
@@ -481,7 +490,10 @@ double Ephemeris::BacaJamER(const KolomJam& kolom, double x) const {
     const double bulat = std::floor(x);
     const int i = std::clamp(static_cast<int>(bulat) + 25, 1, 49);
     const double v = kolom(static_cast<size_t>(i));
-    return v - (x - bulat) * (v - kolom(static_cast<size_t>(i) + 1));
+    const double beda = v - kolom(static_cast<size_t>(i) + 1);
+    if (std::abs(beda) <= 180) return v - (x - bulat) * beda;
+    // A longitude or right ascension that passes 360° within the hour.
+    return putar(v - (x - bulat) * selisihBusur(v, kolom(static_cast<size_t>(i) + 1)), 360);
 }
 
 double Ephemeris::RefraksiER(double tinggi) {
