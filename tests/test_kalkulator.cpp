@@ -83,6 +83,20 @@ TEST(Kalkulator, AValueWithAStrayOrSurplusFieldIsRefusedNotReadAsZero) {
     EXPECT_EQ(k.err.find(panjang), std::string::npos) << k.err;
 }
 
+TEST(Kalkulator, SumsTakeUpToSixOperands) {
+    // 1+2+3+4+5+6 degrees = 21; 30 less 1, 2, 3, 4 and 5 degrees = 15; a seventh operand is one too many.
+    const Keluaran k = jalankan({"--batch"},
+                                "tambah;3;3;1;00 01 00 00 00 1;00 02 00 00 00 1;00 03 00 00 00 1;00 04 00 00 00 1;"
+                                "00 05 00 00 00 1;00 06 00 00 00 1\n"
+                                "kurang;3;3;1;00 30 00 00 00 1;00 01 00 00 00 1;00 02 00 00 00 1;00 03 00 00 00 1;"
+                                "00 04 00 00 00 1;00 05 00 00 00 1\n"
+                                "tambah;3;3;1;00 01 00 00 00 1;00 01 00 00 00 1;00 01 00 00 00 1;00 01 00 00 00 1;"
+                                "00 01 00 00 00 1;00 01 00 00 00 1;00 01 00 00 00 1\n");
+    EXPECT_EQ(k.status, 1);
+    EXPECT_EQ(k.out, "00 21 00 00 00 1\n00 15 00 00 00 1\n");
+    EXPECT_NE(k.err.find("baris 3: jumlah isian salah (11)"), std::string::npos) << k.err;
+}
+
 TEST(Kalkulator, NoOperationIsAUsageError) {
     EXPECT_EQ(jalankan({}).status, 2);
     EXPECT_EQ(jalankan({"--batch", "umum;0"}).status, 2);

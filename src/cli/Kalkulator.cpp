@@ -109,7 +109,7 @@ struct Operasi {
     std::function<std::string(const Isian&)> kerjakan;
 };
 
-// tambah and kurang: JENIS;TANDA;MODUS;V1;V2[;V3..;V6]
+// tambah and kurang: JENIS;TANDA;MODUS;V1;V2[;V3..;V6], ten fields at most with the name
 template <typename F>
 std::string jumlahkan(const Isian& x, F f) {
     Nilai v[6] = {x.nilai(4), x.nilai(5), Kosong, Kosong, Kosong, Kosong};
@@ -119,9 +119,9 @@ std::string jumlahkan(const Isian& x, F f) {
 
 const std::map<std::string, Operasi, std::less<>>& daftarOperasi() {
     static const std::map<std::string, Operasi, std::less<>> daftar = {
-        {"tambah", {6, 9, "tambah;JENIS;TANDA;MODUS;V1;V2[;V3..;V6]",
+        {"tambah", {6, 10, "tambah;JENIS;TANDA;MODUS;V1;V2[;V3..;V6]",
                     [](const Isian& x) { return jumlahkan(x, TambahNilai); }}},
-        {"kurang", {6, 9, "kurang;JENIS;TANDA;MODUS;V1;V2[;V3..;V6]",
+        {"kurang", {6, 10, "kurang;JENIS;TANDA;MODUS;V1;V2[;V3..;V6]",
                     [](const Isian& x) { return jumlahkan(x, KurangNilai); }}},
         {"kali", {6, 6, "kali;JENIS;TANDA;MODUS;A;B",
                   [](const Isian& x) {

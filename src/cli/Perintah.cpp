@@ -8,6 +8,7 @@
 #include "cli/PerintahBatch.h"
 #include "cli/PerintahGerhana.h"
 #include "cli/PerintahHisab.h"
+#include "cli/PerintahKalender.h"
 #include "cli/PerintahTempat.h"
 #include "run/Workspace.h"
 
@@ -80,6 +81,7 @@ const std::vector<Opsi>& DaftarOpsi() {
         {"--arab", "TEKS", "nama tampilan (mis. dalam huruf Arab)"},
         {"--jenis", "bulan|matahari", "gerhana bulan atau gerhana matahari", periksaJenis, "bulan"},
         {"--sampai", "TAHUN", "tahun Hijriyah terakhir pencarian", periksaTahun},
+        {"--hijriah", "", "tahunnya tahun Hijriyah, bulannya bulan Hijriyah (tanpa ini: tahun Masehi)"},
     };
     return daftar;
 }
@@ -100,6 +102,8 @@ const std::vector<Perintah>& DaftarPerintah() {
          "gerhana yang ditemukan kitab itu, satu per baris dengan waktu fasenya (--bulan: lembar kerja "
          "dan kesimpulan gerhana bulan itu)",
          perintahGerhana},
+        {"kalender", "", 0, 0, {{"--tahun", Wajib}, {"--hijriah"}, {"--kitab"}, {"--markaz"}, {"--json"}},
+         "kalender setahun: tanggal Hijriyah dan pasaran tiap hari, awal bulan Hijriyah ditandai *", perintahKalender},
         {"tempat daftar", "", 0, 0, {}, "daftar tempat dan berkas yang dipakai", perintahTempatDaftar},
         {"tempat tambah", "NAMA", 1, 1,
          {{"--lintang", Wajib}, {"--bujur", Wajib}, {"--zona", Wajib}, {"--tinggi"}, {"--arab"}},

@@ -13,7 +13,8 @@ std::vector<Tabel*> ClsConnection::semua() {
     return {&Daerah,      &ClearTxtMargen,  &Lines,      &ListTxt,     &MergenExcel,    &Names,
             &Refraksi,        &TafawutWIB, &TQQDaqoiqAhTaf, &TQQImkanGerhana, &TQQRumuz,
             &TQQSaah,     &TQQSyahru,       &TQQTaadil,  &TQQthMab,    &TQQYaumTam,     &TRBSyahru,
-            &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2,     &ERBumi};
+            &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2,     &ERBumi,
+            &TaadilKal1,  &TaadilKal2,      &TaadilKal3};
 }
 
 Tabel* ClsConnection::tabel(std::string_view nama) {

@@ -177,6 +177,13 @@ Workspace::HasilBatch Workspace::duaBelasBulanSemuaKitab(const std::string& tahu
     return batch(runs, tahunTeks, namaTempat, keluaran);
 }
 
+std::optional<Nilai> Workspace::awalBulan(const EntriModul& entri, int32_t tahun, int bulan) {
+    Modul* m = modul(entri);
+    if (!m) return std::nullopt;
+    siapkan(entri, tahun, bulan);
+    return m->AwalBulan(tahun, static_cast<int16_t>(bulan));
+}
+
 void Workspace::siapkan(const EntriModul& entri, int32_t tahun, int bulan) {
     sesi.tahunHijri = CetakAngka(tahun);
     sesi.tanggalPilihan = Nilai(std::to_string(tahun) + " " + std::to_string(bulan) + " ");

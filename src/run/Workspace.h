@@ -107,6 +107,11 @@ public:
         return e ? modul(*e) : nullptr;
     }
 
+    // The first of the month that the ijtima' at the end of month (tahun, bulan) opens, by the
+    // module of a registry entry run without sheets at the session's place; none when the
+    // module is not available or could not place the ijtima'.
+    std::optional<Nilai> awalBulan(const EntriModul& entri, int32_t tahun, int bulan);
+
     // The Hijri years the books serve: within them every book's year arithmetic and the civil
     // calendar of its conclusion hold.
     static constexpr int32_t kTahunAwal = 1;

@@ -1,6 +1,7 @@
 #include "ui/ModMenu.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QMenu>
 #include <QMenuBar>
 
@@ -9,6 +10,7 @@
 #include "core/Angka.h"
 #include "core/FungsHisab.h"
 #include "ui/FrmHisab.h"
+#include "ui/FrmKalender.h"
 #include "ui/KotakPesan.h"
 #include "ui/Kirim.h"
 
@@ -27,6 +29,11 @@ void prosesSemuaMetodeTabBaru(FrmHisab& j, QAction&) { j.prosesSemuaMetode(0); }
 void prosesBulan(FrmHisab& j, int bulan) { j.prosesSemuaMetode(bulan); }
 void prosesSetahun(FrmHisab& j, QAction&) { j.prosesSetahun(FrmHisab::Tab::Ganti); }
 void prosesSetahunTabBaru(FrmHisab& j, QAction&) { j.prosesSetahun(); }
+void bukaKalender(FrmHisab& j, QAction&) {
+    auto* dialog = new FrmKalender(j.ruangKerja(), j.findChild<QComboBox*>("cboDaerah")->currentText(), &j);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+}
 void eksporIni(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::HalamanIni); }
 void eksporKet(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Keterangan); }
 void eksporSemua(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Semua); }
@@ -167,6 +174,7 @@ const std::vector<ItemMenu>& DaftarMenu() {
         PerNomor("mnuBulan", "mnuBulan", 1, 12, judulBulan, prosesBulan),
         Perintah("PROSESMENU", "mnu12Bulan", "Satu tahun", prosesSetahun),
         Perintah("PROSESMENU", "mnu12Bulan1", "Satu tahun (Tab Baru)", prosesSetahunTabBaru),
+        Perintah("PROSESMENU", "mnuKalender", "&Kalender", bukaKalender),
         Pemisah("PROSESMENU", "SEPARATOR5"),
         Menu("PROSESMENU", "mnuthGerhanaB", "Gerhana Bulan Beberapa Tahun"),
         PerNomor("mnuthGerhanaB", "mnthGB", 1, 10, tahunKedepan, gerhanaBulanTahun),

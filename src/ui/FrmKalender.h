@@ -1,0 +1,51 @@
+// The year calendar window: a year, Masehi or Hijri, and a book from the calendar's list; the
+// twelve months with the Hijri day and the pasaran in every day's cell and the first days of
+// the Hijri months boxed. The calendar is the sheet that the command line and the
+// spreadsheet show.
+#pragma once
+
+#include <QDialog>
+
+#include <memory>
+
+#include "core/Sheet.h"
+
+class QComboBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+class QRadioButton;
+class QVBoxLayout;
+
+namespace falak {
+class Workspace;
+}
+
+namespace falak::ui {
+
+class GridLembar;
+
+class FrmKalender : public QDialog {
+    Q_OBJECT
+public:
+    // The calendar is reckoned for the named place of the main form.
+    FrmKalender(Workspace& ws, const QString& tempat, QWidget* induk = nullptr);
+
+    // ProsesKal12: reckons the calendar of the year in the box, or says what is wrong.
+    void ProsesKal12();
+    const Sheet& lembar() const { return lembar_; }
+
+private:
+    Workspace& ws_;
+    QString tempat_;
+    Sheet lembar_;
+    QLineEdit* tahun_;
+    QRadioButton *masehi_, *hijri_;
+    QComboBox* metode_;
+    QPushButton* proses_;
+    QLabel* keterangan_;
+    QVBoxLayout* tata_;
+    GridLembar* grid_ = nullptr;
+};
+
+}  // namespace falak::ui
