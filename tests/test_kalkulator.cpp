@@ -41,7 +41,8 @@ TEST(Kalkulator, EveryOperationByItsOwnShape) {
                                     "kebusur;200;1\n"
                                     "deret;3;1;1;00 00 30 00 00 1;3;00 01 00 00 00 1;0;Kosong;0;Kosong;0;Kosong\n"
                                     "alamahdari;00 30 00 00 00 1;1\r\n"
-                                    "tambah;0;3;1;000 00 00 00 06 20 00 00 00 1;000 00 00 00 03 05 30 00 00 1;Kosong;x\n");
+                                    "tambah;0;3;1;000 00 00 00 06 20 00 00 00 1;000 00 00 00 03 05 30 00 00 1;Kosong;"
+                                    "000 00 00 00 00 01 00 00 00 1\n");
     EXPECT_EQ(k.status, 0) << k.err;
     EXPECT_EQ(k.out,
               "00 07 00 00 00 0\n00 01 02 30 00 1\n00 00 00 01 00 1\n2024 03 01 00 00 00 00 00 00 1\n"
@@ -62,6 +63,24 @@ TEST(Kalkulator, MalformedLinesAreNamedAndTheBatchGoesOn) {
     EXPECT_NE(k.err.find("baris 3: jumlah isian salah"), std::string::npos) << k.err;
     EXPECT_NE(k.err.find("baris 4: isian ke-3 (\"x\") bukan angka"), std::string::npos) << k.err;
     EXPECT_NE(k.err.find("baris 5: isian ke-3 harus 0 atau 1"), std::string::npos) << k.err;
+}
+
+TEST(Kalkulator, AValueWithAStrayOrSurplusFieldIsRefusedNotReadAsZero) {
+    const std::string panjang(70, 'q');
+    const Keluaran k = jalankan({"--batch"}, "tambah;3;3;1;00 1o 00 00 00 1;00 01 00 00 00 1\n"
+                                             "kurang;3;3;1;00 10 00 00 00 1;0 0 0 0 0 0 0 0 0 0 1\n"
+                                             "umum;000 00 00 00 00 05 00 00 00 1 7\n" +
+                                                 panjang + ";1\n"
+                                             "tambah;3;3;1;-00 01 00 00 00 1;00 02 00 00 00 1\n");
+    EXPECT_EQ(k.status, 1);
+    EXPECT_EQ(k.out, "00 03 00 00 00 1\n") << "only the sound line is worked";
+    EXPECT_NE(k.err.find("baris 1: isian ke-5 (\"00 1o 00 00 00 1\") bukan nilai"), std::string::npos) << k.err;
+    EXPECT_NE(k.err.find("baris 2: isian ke-6 (\"0 0 0 0 0 0 0 0 0 0 1\") lebih dari sepuluh medan"), std::string::npos)
+        << k.err;
+    EXPECT_NE(k.err.find("baris 3: isian ke-2"), std::string::npos) << k.err;
+    // A long line is quoted cut short.
+    EXPECT_NE(k.err.find("baris 4: operasi \"" + std::string(40, 'q') + "…\" tidak dikenal"), std::string::npos) << k.err;
+    EXPECT_EQ(k.err.find(panjang), std::string::npos) << k.err;
 }
 
 TEST(Kalkulator, SumsTakeUpToSixOperands) {

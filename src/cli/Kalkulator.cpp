@@ -1,5 +1,6 @@
 #include "cli/Kalkulator.h"
 
+#include <algorithm>
 #include <functional>
 #include <istream>
 #include <map>
@@ -22,6 +23,22 @@ std::string_view rapikan(std::string_view s) {
     return s;
 }
 
+// A field of a whole number, as the value rows write them: digits with a sign in front.
+bool AdalahBulat(std::string_view s) {
+    if (!s.empty() && (s.front() == '-' || s.front() == '+')) s.remove_prefix(1);
+    return !s.empty() && s.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+// A piece of the user's line for a message: in quotes, cut short when it is long, so that a
+// runaway line does not flood the terminal.
+std::string kutip(std::string_view s) {
+    constexpr size_t kPanjang = 40;
+    if (s.size() <= kPanjang) return "\"" + std::string(s) + "\"";
+    size_t n = kPanjang;
+    while (n > 0 && (static_cast<unsigned char>(s[n]) & 0xC0) == 0x80) --n;  // not inside a letter
+    return "\"" + std::string(s.substr(0, n)) + "…\"";
+}
+
 std::vector<std::string_view> pecah(std::string_view baris) {
     std::vector<std::string_view> isian;
     size_t awal = 0;
@@ -39,12 +56,28 @@ public:
     explicit Isian(std::vector<std::string_view> isian) : isian_(std::move(isian)) {}
 
     size_t jumlah() const { return isian_.size(); }
-    Nilai nilai(size_t i) const { return Nilai(isian_[i]); }
+    // A value: whole numbers between blanks, no more of them than an alamah value holds
+    // (nine fields and the sign), so that a mistyped field is refused rather than read as 0;
+    // or "Kosong", the operand that is not given.
+    Nilai nilai(size_t i) const {
+        if (rapikan(isian_[i]) == Kosong.teks()) return Kosong;
+        size_t medan = 0;
+        for (size_t awal = isian_[i].find_first_not_of(' '); awal != std::string_view::npos;) {
+            const size_t akhir = std::min(isian_[i].find(' ', awal), isian_[i].size());
+            if (!AdalahBulat(isian_[i].substr(awal, akhir - awal)))
+                throw Cacat{"isian ke-" + std::to_string(i + 1) + " (" + kutip(isian_[i]) + ") bukan nilai"};
+            ++medan;
+            awal = isian_[i].find_first_not_of(' ', akhir);
+        }
+        if (medan > 10)
+            throw Cacat{"isian ke-" + std::to_string(i + 1) + " (" + kutip(isian_[i]) + ") lebih dari sepuluh medan"};
+        return Nilai(isian_[i]);
+    }
 
     double angka(size_t i) const {
         const std::string_view s = rapikan(isian_[i]);
         if (!AdalahAngka(s))
-            throw Cacat{"isian ke-" + std::to_string(i + 1) + " (\"" + std::string(isian_[i]) + "\") bukan angka"};
+            throw Cacat{"isian ke-" + std::to_string(i + 1) + " (" + kutip(isian_[i]) + ") bukan angka"};
         return ValAngka(s);
     }
     int bulat(size_t i) const {
@@ -143,7 +176,7 @@ HasilBaris hitungBaris(std::string_view baris) {
     const std::string_view nama = rapikan(pecah(baris).front());
     const auto& daftar = daftarOperasi();
     const auto it = daftar.find(nama);
-    if (it == daftar.end()) return {true, "operasi \"" + std::string(nama) + "\" tidak dikenal"};
+    if (it == daftar.end()) return {true, "operasi " + kutip(nama) + " tidak dikenal"};
     const Operasi& op = it->second;
     if (isian.jumlah() < op.paling_sedikit || isian.jumlah() > op.paling_banyak)
         return {true, "jumlah isian salah (" + std::to_string(isian.jumlah()) + "); tulislah " + op.bentuk};
