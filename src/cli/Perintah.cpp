@@ -102,7 +102,8 @@ const std::vector<Perintah>& DaftarPerintah() {
          "gerhana yang ditemukan kitab itu, satu per baris dengan waktu fasenya (--bulan: lembar kerja "
          "dan kesimpulan gerhana bulan itu)",
          perintahGerhana},
-        {"kalender", "", 0, 0, {{"--tahun", Wajib}, {"--hijriah"}, {"--kitab"}, {"--markaz"}, {"--json"}},
+        {"kalender", "", 0, 0,
+         {{"--tahun", Wajib}, {"--hijriah"}, {"--kitab"}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--pdf"}},
          "kalender setahun: tanggal Hijriyah dan pasaran tiap hari, awal bulan Hijriyah ditandai *", perintahKalender},
         {"tempat daftar", "", 0, 0, {}, "daftar tempat dan berkas yang dipakai", perintahTempatDaftar},
         {"tempat tambah", "NAMA", 1, 1,
