@@ -69,7 +69,9 @@ const std::vector<Opsi>& DaftarOpsi() {
         {"--xlsx", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .xlsx"},
 #ifdef FALAK_PDF
         {"--pdf", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .pdf (satu halaman A4)"},
+        {"--odt", "BERKAS", "lembar rumus kitab tahqiqi ke berkas .odt (pengolah kata)"},
 #else
+        {"--odt", "BERKAS", "tidak tersedia: falak ini dibangun tanpa Qt"},
         {"--pdf", "BERKAS", "tidak tersedia: falak ini dibangun tanpa Qt"},
 #endif
         {"--batch", "", "operasi satu per baris dari masukan baku"},
@@ -91,7 +93,7 @@ const std::vector<Perintah>& DaftarPerintah() {
     static const std::vector<Perintah> daftar = {
         {"hisab", "", 0, 0,
          {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--pdf"},
-          {"--rumus"}, {"--deltat"}},
+          {"--rumus"}, {"--odt"}, {"--deltat"}},
          "ijtima' dan hilal akhir bulan itu menurut satu kitab: lembar kerja dan kesimpulannya", perintahHisab},
         {"semua", "", 0, 0, {{"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--deltat"}},
          "ijtima' dan awal bulan menurut semua kitab, satu baris sekitab", perintahSemua},
