@@ -132,6 +132,22 @@ class Buku(unittest.TestCase):
             self.assertIn(arab.lstrip("-"), ws["A1"].value)
             self.assertEqual(wb["Kesimpulan"]["B13"].value.split(" ")[0], nama.split(" ")[0])
 
+    def test_each_step_of_a_precise_book_carries_its_formula_as_a_tip(self):
+        berkas = self.tulis("er.xlsx", "hisab", "--kitab", "ER", "--tahun", "1445", "--bulan", "8", "--markaz", "Jakarta")
+        ws = openpyxl.load_workbook(berkas).worksheets[0]
+        tips = {str(v.sqref): v for v in ws.data_validations.dataValidation}
+        self.assertEqual(len(tips), 50)
+        # The reckoning's rows name their step (column B) and its formula (column G); the tip
+        # of the step's value (column F) says the same, then the run's numbers.
+        for baris in range(57, 107):
+            tip = tips[f"F{baris}"]
+            self.assertTrue(tip.showInputMessage)
+            self.assertEqual(tip.promptTitle, ws[f"B{baris}"].value[:32], baris)
+            rumus, angka = tip.prompt.split("\n", 1)
+            self.assertEqual(rumus, ws[f"G{baris}"].value, baris)
+            self.assertIn(" = ", angka)
+        self.assertEqual(tips["F106"].promptTitle, "Kemiringan hilal")
+
     def test_the_year_calendar(self):
         perintah = ["kalender", "--tahun", "2026", "--markaz", "Jakarta"]
         wb = openpyxl.load_workbook(self.tulis("kalender.xlsx", *perintah))

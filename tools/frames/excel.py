@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Writes the tables by which a worked sheet is laid out when it leaves the program (spreadsheet,
 printed page): data/MergenExcel.csv (cells to show as one), data/ClearTxtMargen.csv (cells to
-empty first) and data/Lines.csv (the lines of the book's table).
+empty first) and data/Lines.csv (the lines of the book's table); and data/Validation.csv, the
+cell of each step of a precise book's formula sheet, which carries that step's formula as its
+tip.
 
 Each treatise X has one column in each table (MergnX, ClearTxtX, Lines_X; Khulashotu's clear
 column is ClearTxtKWI), one range a row, read from the first row to the last; an empty cell is
@@ -137,6 +139,12 @@ def ephemeris():
     return [], [], lines
 
 
+def validation_ephemeris():
+    """The fifty results of the Ephemeris reckoning, steps 1 to 50 of its formula sheet, stand in
+    rows 56 to 105 of its sheet, the value in column 5."""
+    return [rentang(56 + i, 5).split(":")[0] for i in range(50)]
+
+
 PERIKSA = "--verify" in sys.argv[1:]
 USANG = []
 
@@ -179,6 +187,9 @@ def main():
     tulis("ClearTxtMargen.csv", ["ClearTxtKWI" if x == "KW1" else f"ClearTxt{x}" for x in kode],
           [s[1] for s in sheets.values()])
     tulis("Lines.csv", [f"Lines_{x}" for x in kode], [s[2] for s in sheets.values()])
+    # One column a book of the formula family, named as the prefix of its formula columns.
+    tips = {"ER": validation_ephemeris()}
+    tulis("Validation.csv", list(tips), list(tips.values()))
 
 
 if __name__ == "__main__":
