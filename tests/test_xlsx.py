@@ -148,6 +148,44 @@ class Buku(unittest.TestCase):
             self.assertIn(" = ", angka)
         self.assertEqual(tips["F106"].promptTitle, "Kemiringan hilal")
 
+    def test_eclipse_sheets_laid_out_as_the_book(self):
+        gerhana = ["gerhana", "--kitab", "SN", "--markaz", "Jakarta"]
+        wb = openpyxl.load_workbook(self.tulis("gb.xlsx", *gerhana, "--jenis", "bulan", "--tahun", "1447", "--bulan", "3"))
+        self.assertEqual(wb.sheetnames, ["Gerhana Bulan 1447 H. 3", "Kesimpulan"])
+        ws = wb.worksheets[0]
+        self.assertTrue(ws.sheet_view.rightToLeft)
+        gabung = {str(r) for r in ws.merged_cells.ranges}
+        # A row label of the right block runs into the empty last column (column A), except
+        # where the place's name stands beside it.
+        self.assertIn("A9:B9", gabung)
+        self.assertIn("A57:B57", gabung)
+        self.assertNotIn("A35:B35", gabung)
+        self.assertEqual(ws["A35"].value, "Jakarta")
+        # The right block is boxed: its top right corner (column A of the worksheet) and its
+        # bottom left one; inside it no line.
+        self.assertEqual(ws["A8"].border.top.style, "thin")
+        self.assertEqual(ws["A8"].border.left.style, "thin")
+        self.assertEqual(ws["K57"].border.bottom.style, "thin")
+        self.assertEqual(ws["K57"].border.right.style, "thin")
+        self.assertIsNone(ws["E30"].border.left.style)
+        self.assertEqual(wb["Kesimpulan"]["A1"].value, "Sullam al-Nairoin")
+
+        wb = openpyxl.load_workbook(self.tulis("gm.xlsx", *gerhana, "--jenis", "matahari", "--tahun", "1437", "--bulan", "5"))
+        self.assertEqual(wb.sheetnames, ["Gerhana Matahari 1437 H. 5", "Ta'dil Kusuf", "Kesimpulan"])
+        self.assertIn("A44:B44", {str(r) for r in wb.worksheets[0].merged_cells.ranges})
+        tdl = wb["Ta'dil Kusuf"]
+        # The look-ups' table of 41 columns: the label column is A, the entry's columns B-H.
+        self.assertEqual(tdl["B2"].border.top.style, "thin")
+        self.assertEqual(tdl["H18"].border.right.style, "thin")
+        self.assertEqual(tdl["A3"].border.left.style, "thin")
+        # The sheets of one run share one conclusion.
+        self.assertEqual(sum(1 for r in wb["Kesimpulan"].iter_rows() if r[0].font.b), 1)
+
+        p = subprocess.run([FALAK, *gerhana, "--tahun", "1447", "--xlsx", os.path.join(self.dir, "x.xlsx")],
+                           env=self.env, capture_output=True, text=True)
+        self.assertEqual(p.returncode, 2)
+        self.assertIn("--bulan", p.stderr)
+
     def test_the_year_calendar(self):
         perintah = ["kalender", "--tahun", "2026", "--markaz", "Jakarta"]
         wb = openpyxl.load_workbook(self.tulis("kalender.xlsx", *perintah))
