@@ -49,6 +49,24 @@ TEST(Rumus, BuildingReadsTheBooksColumnsRowByRow) {
     EXPECT_NE(l.halaman.find("2. Bujur\nL\nL = 251°59'45''\n"), std::string::npos);
 }
 
+TEST(Rumus, FixedRowsTakeTheQuadrantLines) {
+    const AnggotaRumus* bm = CariAnggotaRumus(31);
+    ASSERT_NE(bm, nullptr);
+    Tabel t("TQQRumuz");
+    std::string csv = "BMNama,BMRumuz,BMVar\n";
+    for (int i = 1; i <= 5; ++i) csv += "b" + std::to_string(i) + ",r" + std::to_string(i) + ",\"A,1|B,2|\"\n";
+    ASSERT_EQ(t.bacaCsv(csv), "");
+    // Element 1 of this book is listed (whole degrees), element 2 is not (its degrees alone).
+    const std::vector<Nilai> hasil = {Nilai(), Nilai("08 12 10 00 00 0"), Nilai("08 12 10 00 00 0")};
+    const LembarRumus l = BangunRumus(*bm, t, hasil);
+    ASSERT_EQ(l.baris.size(), 27u);
+    EXPECT_EQ(l.baris[3].rumuz, "r4");
+    EXPECT_EQ(l.baris[4].rumuz,
+              "Jika A < 090 = 180° - B\nJika A < 180 = 180° + B\nJika A < 270 = 360° - B\nJika A < 360 = B");
+    EXPECT_EQ(l.baris[4].isi, "A = 252°10'\nB = -12°10'");
+    EXPECT_EQ(l.judul, "RUMUS IJTIMA METODE BADIATUL MITSAL");
+}
+
 TEST(Rumus, TheSheetOnViewFollowsTheSelectedTab) {
     DaftarRumus d;
     LembarRumus a, b;

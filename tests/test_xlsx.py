@@ -132,6 +132,34 @@ class Buku(unittest.TestCase):
             self.assertIn(arab.lstrip("-"), ws["A1"].value)
             self.assertEqual(wb["Kesimpulan"]["B13"].value.split(" ")[0], nama.split(" ")[0])
 
+    def test_the_year_calendar(self):
+        perintah = ["kalender", "--tahun", "2026", "--markaz", "Jakarta"]
+        wb = openpyxl.load_workbook(self.tulis("kalender.xlsx", *perintah))
+        hari = [h for b in json.loads(self.falak(*perintah, "--json"))["bulan"] for h in b["hari"]]
+        # A calendar has no conclusion.
+        self.assertEqual(wb.sheetnames, ["Kalender 2026 M. SN"])
+        ws = wb.worksheets[0]
+        self.assertFalse(ws.sheet_view.rightToLeft)
+        self.assertEqual(ws["A1"].value, "KALENDER TAHUN 2026 M.")
+        self.assertIn("A1:W1", {str(r) for r in ws.merged_cells.ranges})
+        self.assertEqual(ws["A3"].value, "JANUARI 2026 M.")
+        self.assertEqual([c.value for c in ws[5][:7]], ["Ahad", "Senin", "Selasa", "Rabu", "Kamis", "Ju'mat", "Sabtu"])
+        # 1 January 2026 is a Thursday: the first week of January has its first day under Kamis.
+        self.assertEqual([c.value for c in ws[6][:4]], [None] * 4)
+        kamis = ws["E6"].value
+        self.assertEqual(kamis.split(" ")[0], f"1/{hari[0]['hijriah']['tanggal']}")
+        self.assertEqual(kamis.split(" ")[1], hari[0]["pasaran"])
+        # Every first day of a Hijri month is boxed and names its month, and only those.
+        awal = {f"{h['masehi'][5:7]}-{h['hijriah']['namaBulan']}" for h in hari if h["awalBulan"]}
+        kotak = set()
+        for baris in ws.iter_rows():
+            for c in baris:
+                if c.border.top.style == "thin" and c.border.left.style == "thin" and c.border.right.style == "thin":
+                    self.assertEqual(c.value.split("/")[1].split(" ")[0], "1", c.coordinate)
+                    kotak.add(c.value.split(" ", 2)[2])
+        self.assertEqual(kotak, {a.split("-")[1] for a in awal})
+        self.assertEqual(len(awal), 12)
+
     def test_tips_and_a_left_to_right_sheet(self):
         berkas = os.path.join(self.dir, "contoh.xlsx")
         subprocess.run([CONTOH, berkas], check=True)

@@ -19,6 +19,8 @@ namespace {
 const std::vector<AnggotaRumus>& anggota() {
     static const std::vector<AnggotaRumus> daftar = {
         {"ER", 48, 50, {}, {3, 5, 6, 32, 33}, "RUMUS IJTIMA EPHEMERIS", "RUMUS IJTIMA EPHEMERIS"},
+        {"BM", 31, 27, {5, 15}, {1, 7, 8, 9, 11, 19, 20}, "RUMUS BADIATUL MITSAL", "RUMUS IJTIMA METODE BADIATUL MITSAL"},
+        {"NA", 41, 24, {4, 14}, {1, 6, 7, 8, 10, 18, 19}, "RUMUS MURUL ANWAR", "RUMUS MURUL ANWAR"},
     };
     return daftar;
 }
