@@ -49,6 +49,33 @@ TEST(Rumus, BuildingReadsTheBooksColumnsRowByRow) {
     EXPECT_NE(l.halaman.find("2. Bujur\nL\nL = 251°59'45''\n"), std::string::npos);
 }
 
+TEST(Rumus, EachStepsTipGoesToTheCellTheTableNames) {
+    Tabel v("Validation");
+    // Step 2 has no cell, step 3 an unreadable one, step 4 one off the sheet; the table runs
+    // past the steps of the run.
+    ASSERT_EQ(v.bacaCsv("BM,ER\nA1,B2\n,\nx,9Z\n,Z99\n,A3\n,C1\n"), "");
+    LembarRumus l;
+    l.kodeLembar = 48;
+    for (const char* nama : {"Jam", "Bujur", "Lintang", "Jarak", "Tinggi"}) l.baris.push_back({nama, "r = " + std::string(nama), "r = 1°0'\ns = 2°0'"});
+    Sheet s;
+    s.atur(3, 3);
+    PasangTipRumus(s, v, l);
+    ASSERT_EQ(s.tips().size(), 2u);
+    EXPECT_EQ(s.tips()[0].baris, 1);
+    EXPECT_EQ(s.tips()[0].kolom, 1);
+    EXPECT_EQ(s.tips()[0].judul, "Jam");
+    EXPECT_EQ(s.tips()[0].pesan, "r = Jam\nr = 1°0'\ns = 2°0'");
+    EXPECT_EQ(s.tips()[1].baris, 2);
+    EXPECT_EQ(s.tips()[1].judul, "Tinggi");
+    // A book without a column gets no tips.
+    Tabel lain("Validation");
+    ASSERT_EQ(lain.bacaCsv("BM\nA1\n"), "");
+    Sheet t;
+    t.atur(3, 3);
+    PasangTipRumus(t, lain, l);
+    EXPECT_TRUE(t.tips().empty());
+}
+
 TEST(Rumus, FixedRowsTakeTheQuadrantLines) {
     const AnggotaRumus* bm = CariAnggotaRumus(31);
     ASSERT_NE(bm, nullptr);

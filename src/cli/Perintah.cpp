@@ -100,7 +100,8 @@ const std::vector<Perintah>& DaftarPerintah() {
         {"setahun", "", 0, 0, {{"--kitab"}, {"--tahun", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
          "dua belas bulan setahun menurut satu kitab (--kitab semua: menurut semua kitab)", perintahSetahun},
         {"gerhana", "", 0, 0,
-         {{"--jenis"}, {"--kitab"}, {"--tahun", Wajib}, {"--sampai"}, {"--bulan"}, {"--markaz"}, {"--json"}},
+         {{"--jenis"}, {"--kitab"}, {"--tahun", Wajib}, {"--sampai"}, {"--bulan"}, {"--markaz"}, {"--json"}, {"--xlsx"},
+          {"--pdf"}},
          "gerhana yang ditemukan kitab itu, satu per baris dengan waktu fasenya (--bulan: lembar kerja "
          "dan kesimpulan gerhana bulan itu)",
          perintahGerhana},

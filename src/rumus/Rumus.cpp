@@ -121,6 +121,20 @@ LembarRumus BangunRumus(const AnggotaRumus& a, Tabel& t, std::span<const Nilai> 
     return l;
 }
 
+void PasangTipRumus(Sheet& lembar, const Tabel& validation, const LembarRumus& rumus) {
+    const AnggotaRumus* a = CariAnggotaRumus(rumus.kodeLembar);
+    if (!a) return;
+    const int kolom = validation.indeksKolom(std::string(a->kolom));
+    if (kolom < 0) return;
+    const size_t n = std::min(validation.jumlahBaris(), rumus.baris.size());
+    for (size_t i = 0; i < n; ++i) {
+        Rentang sel;
+        if (!BacaRentang(validation.sel(i, static_cast<size_t>(kolom)), sel)) continue;
+        const BarisRumus& b = rumus.baris[i];
+        lembar.tip(sel.baris1, sel.kolom1, b.nama, b.rumuz + "\n" + b.isi);
+    }
+}
+
 int DaftarRumus::tambah(std::string kunciTab, LembarRumus lembar) {
     const int nomor = 1 + static_cast<int>(std::count_if(item_.begin(), item_.end(), [&](const Item& i) {
                           return i.lembar.kodeLembar == lembar.kodeLembar;
