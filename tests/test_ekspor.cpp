@@ -94,16 +94,24 @@ TEST_F(Tata, ClearsThenMergesThenDrawsSkippingEmptyAndUnreadableCells) {
 }
 
 // Every range of the shipped layout tables lies on the sheet of its book, and clears only
-// copies: the text of a cleared cell stands in the merge that covers it.
+// copies: the text of a cleared cell stands in the merge that covers it. The sheets are those
+// of every month module and of every eclipse module, in a month where the books find one (the
+// solar eclipse with the sheet of its look-ups).
 TEST(TataTerkirim, EveryRangeLiesOnItsSheet) {
     ClsConnection koneksi(CariLokasiData());
     Workspace ws(koneksi);
-    for (const EntriModul* e : ws.kitabTersedia()) {
-        SCOPED_TRACE(std::string(e->kode));
-        const auto h = ws.mnuProsesIjSub(std::string(e->kode), "1445", 8, "Pasuruan");
-        ASSERT_TRUE(h.lembar);
-        const Sheet& asli = h.lembar->lembar;
-        const std::string x = AkhiranTata(h.lembar->kunci);
+    for (const EntriModul* e : ws.kitabTersedia()) ASSERT_TRUE(ws.mnuProsesIjSub(std::string(e->kode), "1445", 8, "Pasuruan").lembar);
+    const size_t bulanan = ws.lembar.size();
+    for (const EntriModul& e : DaftarModul()) {
+        if (e.garapan == Garapan::Ij || !e.tersedia()) continue;
+        const bool bulan = e.garapan == Garapan::Hs;
+        ws.mnuProsesGerhana(e.garapan, std::string(e.kode), bulan ? "1447" : "1437", bulan ? 3 : 5, "Jakarta");
+    }
+    ASSERT_GE(ws.lembar.size(), bulanan + 3);  // at least Sullam's two eclipses
+    for (const auto& l : ws.lembar) {
+        SCOPED_TRACE(l->kunci);
+        const Sheet& asli = l->lembar;
+        const std::string x = AkhiranTata(l->kunci);
         for (const Tabel* t : {&koneksi.ClearTxtMargen, &koneksi.MergenExcel, &koneksi.Lines}) {
             const std::string nama = t == &koneksi.Lines ? "Lines_" + x
                                      : t == &koneksi.MergenExcel ? "Mergn" + x
@@ -131,7 +139,11 @@ TEST(TataTerkirim, EveryRangeLiesOnItsSheet) {
                 }
         // A merge of the tables never swallows a text: only its first cell holds one.
         for (const Gabungan& g : s.gabungan())
-            for (int k = g.kolom1 + 1; k <= g.kolom2; ++k) EXPECT_EQ(s.sel(g.baris, k), "") << g.baris << "," << k;
+            for (int b = g.baris; b < g.baris + g.tinggi; ++b)
+                for (int k = g.kolom1; k <= g.kolom2; ++k) {
+                    if (b == g.baris && k == g.kolom1) continue;
+                    EXPECT_EQ(s.sel(b, k), "") << b << "," << k;
+                }
     }
 }
 

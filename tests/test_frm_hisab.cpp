@@ -173,7 +173,7 @@ private slots:
             {"mnuProsesIj|2", "Sullam al-Nairoin"}, {"mnuProsesAll", "Proses semua metode"},
             {"mnu12Bulan", "Satu tahun"},          {"mnuBulan|1", "01.  Muharrom"},
             {"mnuBulan|8", "08.  Sy'ban"},          {"mnuBulan|12", "12.  Dzulhijjah"},
-            {"mnuAbout", "Seng Nggawe Program"}};
+            {"mnuAbout", "Seng Nggawe Program"}, {"mnuExportRumus", "Kirim Rumus ke Word (&Export to Word)"}};
         for (const auto& [kunci, judul] : ada) {
             QAction* a = cari(*w, kunci);
             QVERIFY2(a, kunci);
@@ -188,7 +188,7 @@ private slots:
         // Every key of the menu tree stands on the list the bar is built from. Those whose
         // work has landed are on the bar; the others are not there at all, not even as an
         // empty menu.
-        const QStringList belum = {"mnuExportRumus", "mnuPicRumuz"};
+        const QStringList belum = {"mnuPicRumuz"};
         const char* pohon[] = {"FILE",         "mnuExport",   "mnuExportThis", "mnuExportKet", "mnuExportAll",
                                "mnuExportRumus", "mnuPrint",  "mnuExit",       "EDIT",         "mnuPicRumuz",
                                "mnuNewDaerah", "PROSESMENU",  "mnuProsesIj",   "mnuProsesIj|2", "mnuProsesGB",

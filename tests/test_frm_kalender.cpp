@@ -1,6 +1,7 @@
 // The calendar window, opened from the menu: a year that is not a number is refused with the
 // program's message, and a year shows the same sheet the command line and the spreadsheet get.
 #include <QComboBox>
+#include <QFileDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -85,6 +86,29 @@ private slots:
             for (int k = 0; k < s.jumlahKolom(); ++k)
                 QCOMPARE(m.data(m.index(b, k)).toString(), QString::fromStdString(s.sel(b, k)));
         QCOMPARE(m.data(m.index(2, 0)).toString(), QString("Muharrom 1445 H."));
+    }
+
+    void theCalendarGoesToTheFileChosen() {
+        FrmKalender* d = buka();
+        QVERIFY(d);
+        auto* kirim = cari<QPushButton>(*d, "KirimKalender");
+        QVERIFY(!kirim->isEnabled());  // nothing to send yet
+        isiTahun(*d, "2026");
+        QTest::mouseClick(cari<QPushButton>(*d, "ProsesKal12"), Qt::LeftButton);
+        QVERIFY(kirim->isEnabled());
+        QTest::mouseClick(kirim, Qt::LeftButton);
+        QFileDialog* dialog = nullptr;
+        QTRY_VERIFY((dialog = d->findChild<QFileDialog*>("dlgKirimKalender")) && dialog->isVisible());
+        QTemporaryDir folderBerkas;
+        dialog->setDirectory(folderBerkas.path());
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText("kalender.xlsx");
+        static_cast<QDialog*>(dialog)->accept();
+        QFile f(folderBerkas.filePath("kalender.xlsx"));
+        QTRY_VERIFY(f.size() > 0);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        // One worksheet, named by the year and the book.
+        const QByteArray isi = f.readAll();
+        QCOMPARE(isi.count("xl/worksheets/sheet") / 2, 1);
     }
 };
 

@@ -52,7 +52,7 @@ private slots:
     void cleanup() { w.reset(); }
 
     void withoutASheetTheGuardSpeaksAndNothingOpens() {
-        for (const char* kunci : {"mnuExportThis", "mnuExportKet", "mnuExportAll", "mnuPrint"}) {
+        for (const char* kunci : {"mnuExportThis", "mnuExportKet", "mnuExportAll", "mnuExportRumus", "mnuPrint"}) {
             QAction* a = cari(*w, kunci);
             QVERIFY2(a && a->isEnabled(), kunci);
             a->trigger();
@@ -81,6 +81,35 @@ private slots:
             simpanKe(berkas);
             QCOMPARE(jumlahLembar(berkas), jumlah);
         }
+    }
+
+    // A book without formula sheet is refused; a precise book's sheet goes to the document.
+    void theFormulaSheetOfTheSheetInFrontGoesToADocument() {
+        w->prosesKitab("SN");
+        tungguSelesai();
+        cari(*w, "mnuExportRumus")->trigger();
+        QMessageBox* kotak = nullptr;
+        QTRY_VERIFY((kotak = kotakTerbuka(*w)));
+        QVERIFY(kotak->text().startsWith("Export tidak dapat dilakukan, rumus hisab belum ada."));
+        kotak->close();
+        QTRY_VERIFY(!kotakTerbuka(*w));
+        QVERIFY(!w->findChild<QFileDialog*>());
+
+        w->prosesKitab("ER");
+        tungguSelesai();
+        cari(*w, "mnuExportRumus")->trigger();
+        QFileDialog* dialog = nullptr;
+        QTRY_VERIFY((dialog = w->findChild<QFileDialog*>("dlgKirimRumus")) && dialog->isVisible());
+        QVERIFY(dialog->selectedFiles().value(0).endsWith(" Rumus.odt"));
+        QTemporaryDir folderBerkas;
+        dialog->setDirectory(folderBerkas.path());
+        dialog->findChild<QLineEdit*>("fileNameEdit")->setText("er");
+        static_cast<QDialog*>(dialog)->accept();
+        QFile f(folderBerkas.filePath("er.odt"));  // the suffix added
+        QTRY_VERIFY(f.size() > 0);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        const QByteArray kepala = f.read(128);  // a zip whose first entry names the format
+        QVERIFY(kepala.startsWith("PK") && kepala.contains("application/vnd.oasis.opendocument.text"));
     }
 
     void printShowsThePreviewOfTheSheetInFront() {

@@ -49,6 +49,51 @@ TEST(Rumus, BuildingReadsTheBooksColumnsRowByRow) {
     EXPECT_NE(l.halaman.find("2. Bujur\nL\nL = 251°59'45''\n"), std::string::npos);
 }
 
+TEST(Rumus, EachStepsTipGoesToTheCellTheTableNames) {
+    Tabel v("Validation");
+    // Step 2 has no cell, step 3 an unreadable one, step 4 one off the sheet; the table runs
+    // past the steps of the run.
+    ASSERT_EQ(v.bacaCsv("BM,ER\nA1,B2\n,\nx,9Z\n,Z99\n,A3\n,C1\n"), "");
+    LembarRumus l;
+    l.kodeLembar = 48;
+    for (const char* nama : {"Jam", "Bujur", "Lintang", "Jarak", "Tinggi"}) l.baris.push_back({nama, "r = " + std::string(nama), "r = 1°0'\ns = 2°0'"});
+    Sheet s;
+    s.atur(3, 3);
+    PasangTipRumus(s, v, l);
+    ASSERT_EQ(s.tips().size(), 2u);
+    EXPECT_EQ(s.tips()[0].baris, 1);
+    EXPECT_EQ(s.tips()[0].kolom, 1);
+    EXPECT_EQ(s.tips()[0].judul, "Jam");
+    EXPECT_EQ(s.tips()[0].pesan, "r = Jam\nr = 1°0'\ns = 2°0'");
+    EXPECT_EQ(s.tips()[1].baris, 2);
+    EXPECT_EQ(s.tips()[1].judul, "Tinggi");
+    // A book without a column gets no tips.
+    Tabel lain("Validation");
+    ASSERT_EQ(lain.bacaCsv("BM\nA1\n"), "");
+    Sheet t;
+    t.atur(3, 3);
+    PasangTipRumus(t, lain, l);
+    EXPECT_TRUE(t.tips().empty());
+}
+
+TEST(Rumus, FixedRowsTakeTheQuadrantLines) {
+    const AnggotaRumus* bm = CariAnggotaRumus(31);
+    ASSERT_NE(bm, nullptr);
+    Tabel t("TQQRumuz");
+    std::string csv = "BMNama,BMRumuz,BMVar\n";
+    for (int i = 1; i <= 5; ++i) csv += "b" + std::to_string(i) + ",r" + std::to_string(i) + ",\"A,1|B,2|\"\n";
+    ASSERT_EQ(t.bacaCsv(csv), "");
+    // Element 1 of this book is listed (whole degrees), element 2 is not (its degrees alone).
+    const std::vector<Nilai> hasil = {Nilai(), Nilai("08 12 10 00 00 0"), Nilai("08 12 10 00 00 0")};
+    const LembarRumus l = BangunRumus(*bm, t, hasil);
+    ASSERT_EQ(l.baris.size(), 27u);
+    EXPECT_EQ(l.baris[3].rumuz, "r4");
+    EXPECT_EQ(l.baris[4].rumuz,
+              "Jika A < 090 = 180° - B\nJika A < 180 = 180° + B\nJika A < 270 = 360° - B\nJika A < 360 = B");
+    EXPECT_EQ(l.baris[4].isi, "A = 252°10'\nB = -12°10'");
+    EXPECT_EQ(l.judul, "RUMUS IJTIMA METODE BADIATUL MITSAL");
+}
+
 TEST(Rumus, TheSheetOnViewFollowsTheSelectedTab) {
     DaftarRumus d;
     LembarRumus a, b;

@@ -7,7 +7,10 @@
 #include <cmath>
 #include <filesystem>
 #include <fstream>
+#include <map>
+#include <regex>
 #include <sstream>
+#include <vector>
 
 #include "SesiUji.h"
 #include "core/FungsHisab.h"
@@ -26,7 +29,7 @@ struct SesiTahqiqi : uji::SesiUji {
 
     void SetUp() override {
         for (const char* nama : {"TQQthMab", "TQQSyahru", "TQQYaumTam", "TQQSaah", "TQQDaqoiqAhTaf", "TQQTaadil",
-                                 "Names", "ListTxt", "TafawutWIB"}) {
+                                 "Names", "ListTxt", "TafawutWIB", "TQQRumuz"}) {
             std::ifstream f(std::filesystem::path(FALAK_DATA_UJI) / (std::string(nama) + ".csv"));
             std::stringstream isi;
             isi << f.rdbuf();
@@ -158,4 +161,196 @@ TEST_F(SesiTahqiqi, WholeMonthsAgainstTheSky) {
     EXPECT_NE(n[1].find("Rabu Pahing, 10 Apr 2024"), std::string::npos) << n[1];
     EXPECT_NE(n[2].find("9 Apr 2024"), std::string::npos) << n[2];
     EXPECT_NE(n[3].find("01.2"), std::string::npos) << n[3];
+}
+
+TEST_F(SesiTahqiqi, EveryRunKeepsItsFormulaSheet) {
+    auto a = ws->mnuProsesIjSub("BM", "1445", 8, "Jombang");
+    auto b = ws->mnuProsesIjSub("BM", "1445", 9, "Jombang");
+    auto c = ws->mnuProsesIjSub("NA", "1445", 9, "Jombang");
+    ASSERT_TRUE(a.lembar && b.lembar && c.lembar);
+    // The sheets are counted by book; each tab brings its own back, with the switching title.
+    auto tb = ws->rumus.tampil(b.lembar->kunci);
+    auto ta = ws->rumus.tampil(a.lembar->kunci);
+    auto tc = ws->rumus.tampil(c.lembar->kunci);
+    ASSERT_TRUE(ta && tb && tc);
+    EXPECT_EQ(ta->nomor, 1);
+    EXPECT_EQ(tb->nomor, 2);
+    EXPECT_EQ(tc->nomor, 1);
+    EXPECT_EQ(ta->judul, "RUMUS BADIATUL MITSAL");
+    EXPECT_EQ(tc->judul, "RUMUS MURUL ANWAR");
+    // A month later the sun stands about 29 degrees on.
+    auto matahari = [](const LembarRumus& l) { return l.baris[0].isi.substr(l.baris[0].isi.rfind("☉ = ")); };
+    EXPECT_TRUE(matahari(*ta->lembar).starts_with("☉ = 350°")) << matahari(*ta->lembar);
+    EXPECT_TRUE(matahari(*tb->lembar).starts_with("☉ = 20°")) << matahari(*tb->lembar);
+    EXPECT_EQ(ws->rumus.jumlah(), 3u);
+}
+
+// The formula sheets through the real program: each figure the sheet shows is worked here
+// again from the worked table's own cells (the true sun, the true moon and the argument of
+// latitude that the run gives in --json) by the book's formulas.
+namespace {
+
+std::string jalankan(const std::string& perintah) {
+    FILE* p = popen((FALAK_BIN " " + perintah + " 2>/dev/null").c_str(), "r");
+    if (!p) return {};
+    std::string keluar;
+    char buf[4096];
+    while (size_t n = fread(buf, 1, sizeof buf, p)) keluar.append(buf, n);
+    EXPECT_EQ(pclose(p), 0) << perintah;
+    return keluar;
+}
+
+// Degrees of a value text "BB DD MM SS TT s", buruj or open degrees.
+double derajatTeks(const std::string& teks) {
+    std::istringstream in(teks);
+    double b = 0, d = 0, m = 0, s = 0, t = 0;
+    int tanda = 1;
+    in >> b >> d >> m >> s >> t >> tanda;
+    const double x = b * 30 + d + m / 60 + s / 3600 + t / 216000;
+    return tanda == 0 ? -x : x;
+}
+
+// Degrees of cell i (from 1) of a row of the run's --json.
+double sel(const std::string& json, const std::string& nama, size_t i) {
+    const size_t awal = json.find("{\"nama\": \"" + nama + "\", \"sel\": [");
+    if (awal == std::string::npos) return NAN;
+    const size_t buka = json.find('[', awal), tutup = json.find(']', buka);
+    std::vector<std::string> potong;
+    std::string isi = json.substr(buka + 1, tutup - buka - 1), teks;
+    std::istringstream in(isi);
+    for (size_t k = 0; std::getline(in, teks, '"'); ++k)
+        if (k % 2 == 1) potong.push_back(teks);
+    return i - 1 < potong.size() ? derajatTeks(potong[i - 1]) : NAN;
+}
+
+// The formula sheet of --rumus: by row number, each variable line's left side and its value
+// in degrees ("-3°49'15.65''"); the row's text besides.
+struct Rumus {
+    std::map<int, std::map<std::string, double>> nilai;
+    std::map<int, std::string> teks;
+    double operator()(int baris, const std::string& kiri) const {
+        const auto b = nilai.find(baris);
+        if (b == nilai.end()) return NAN;
+        const auto v = b->second.find(kiri);
+        return v == b->second.end() ? NAN : v->second;
+    }
+};
+
+Rumus bacaRumus(const std::string& keluar) {
+    Rumus r;
+    std::istringstream in(keluar.substr(std::min(keluar.find("\nRUMUS "), keluar.size())));
+    std::string baris;
+    int nomor = 0;
+    const std::regex kepala(R"(^(\d+)\. )"), nilai(R"(^(.+) = (-?)(\d+)°(\d+)'(?:([\d.]+)'')?$)");
+    std::smatch m;
+    while (std::getline(in, baris)) {
+        if (std::regex_search(baris, m, kepala)) nomor = std::stoi(m[1]);
+        r.teks[nomor] += baris + "\n";
+        if (std::regex_match(baris, m, nilai)) {
+            const double x = std::stod(m[3]) + std::stod(m[4]) / 60 + (m[5].matched ? std::stod(m[5]) / 3600 : 0);
+            r.nilai[nomor][m[1]] = m[2].length() ? -x : x;
+        }
+    }
+    return r;
+}
+
+constexpr double kR = M_PI / 180;
+double sn(double x) { return std::sin(x * kR); }
+double cs(double x) { return std::cos(x * kR); }
+double tn(double x) { return std::tan(x * kR); }
+double asn(double x) { return std::asin(x) / kR; }
+double acs(double x) { return std::acos(x) / kR; }
+// The right ascension from the head of Capricorn, by the quadrant of the longitude.
+double matholi(double bujur, double b) {
+    return bujur < 90 ? 180 - b : bujur < 180 ? 180 + b : bujur < 270 ? 360 - b : b;
+}
+double putar(double x) { return std::fmod(x + 720, 360); }
+
+constexpr double kDetik = 0.2 / 3600;  // the sheet's values pass through single precision
+constexpr double kPhi = -(7 + 33 / 60.0);  // Jombang
+const std::string kRumusTetap = "Jika A < 090 = 180° - B\nJika A < 180 = 180° + B\nJika A < 270 = 360° - B\nJika A < 360 = B";
+
+}  // namespace
+
+TEST(FalakRumus, BadiatulMitsalAtTheEndOfSyaban1445) {
+    const std::string perintah = "hisab --kitab BM --tahun 1445 --bulan 8 --markaz Jombang";
+    const std::string json = jalankan(perintah + " --json");
+    const Rumus r = bacaRumus(jalankan(perintah + " --rumus"));
+    ASSERT_NE(json.find("\"judul\": \"RUMUS IJTIMA METODE BADIATUL MITSAL\""), std::string::npos);
+    ASSERT_EQ(r.teks.size(), 28u);  // the title and 27 rows
+    const double syams = putar(sel(json, "Syams", 2)), qomar = putar(sel(json, "Qomar", 11));
+    const double hishshoh = putar(sel(json, "Tdl15", 1));
+
+    // The true sun and moon as the sums of their steps, the mean places from the sunset row.
+    EXPECT_NEAR(putar(r(1, "Wasath ☉") + r(1, "Ta'dil ☉")), syams, kDetik);
+    EXPECT_NEAR(putar(sel(json, "Muqowwam", 2)), r(1, "Wasath ☉"), kDetik);
+    EXPECT_NEAR(r(1, "☉"), syams, kDetik);
+    double bulan = r(7, "Wasath ☽");
+    for (const char* k : {"k₁", "k₂", "k₃", "k₄", "k₅"}) bulan += r(7, k);
+    EXPECT_NEAR(putar(bulan), qomar, kDetik);
+    EXPECT_LT(r(7, "k₃"), 0);  // the centre took off this month: shown with its minus
+    EXPECT_NEAR(putar(r(9, "'Uqdah") + r(9, "Ta'dil 'uqdah") + r(9, "☽'")), hishshoh, kDetik);
+
+    const double e = 23.45, i = 5 + 2 / 60.0;
+    EXPECT_NEAR(r(2, "ε"), e, 1e-9);
+    EXPECT_NEAR(r(10, "i"), i, 1e-9);
+    EXPECT_NEAR(r(3, "φ"), kPhi, 1e-9);
+    const double dS = asn(sn(e) * sn(syams));
+    EXPECT_NEAR(r(2, "δ☉"), dS, kDetik);
+    const double aS = matholi(syams, std::fabs(asn(cs(syams) / cs(dS))));
+    EXPECT_NEAR(r(5, "α☉"), aS, kDetik);
+    const double mgS = aS + asn(tn(kPhi) * tn(dS)) + 90;
+    EXPECT_NEAR(r(6, "MG☉"), mgS, kDetik);
+    const double d2 = std::atan(tn(e) * sn(qomar)) / kR, beta = asn(sn(i) * sn(hishshoh));
+    EXPECT_NEAR(r(10, "β"), beta, kDetik);
+    const double dQ = asn(sn(beta + d2) * cs(e) / cs(d2));
+    EXPECT_NEAR(r(12, "δ☽"), dQ, kDetik);
+    const double aQ = matholi(qomar, std::fabs(asn(cs(qomar) / cs(asn(sn(e) * sn(qomar))))));
+    EXPECT_NEAR(r(15, "α☽"), aQ, kDetik);
+    const double setengahQ = asn(tn(kPhi) * tn(dQ)) + 90, bud = aQ + setengahQ - mgS;
+    EXPECT_NEAR(r(17, "Bu'd"), bud, kDetik);
+    EXPECT_NEAR(r(18, "Mukts"), bud / 15, kDetik);
+    const double h = asn(sn(kPhi) * sn(dQ)) + asn(cs(kPhi) * cs(dQ) * cs(setengahQ - bud));
+    EXPECT_NEAR(r(20, "h"), h, kDetik);
+
+    // The fixed rows: the right ascensions by their quadrant, A the longitude.
+    for (int b : {5, 15}) EXPECT_NE(r.teks.at(b).find(kRumusTetap), std::string::npos) << r.teks.at(b);
+    EXPECT_NEAR(r(15, "A"), qomar, kDetik);
+}
+
+TEST(FalakRumus, NurulAnwarAtTheEndOfRamadan1445) {
+    const std::string perintah = "hisab --kitab NA --tahun 1445 --bulan 9 --markaz Jombang";
+    const std::string json = jalankan(perintah + " --json");
+    const Rumus r = bacaRumus(jalankan(perintah + " --rumus"));
+    ASSERT_NE(json.find("\"judul\": \"RUMUS MURUL ANWAR\""), std::string::npos);
+    ASSERT_EQ(r.teks.size(), 25u);  // the title and 24 rows
+    const double syams = putar(sel(json, "Syams", 2)), qomar = putar(sel(json, "Qomar", 11));
+    const double hishshoh = putar(sel(json, "Tdl15", 1));
+
+    const double e = 23 + 4 / 9.0, i = 5, d = 1 + 13 / 60.0;
+    EXPECT_NEAR(r(2, "ε"), e, 1e-9);
+    EXPECT_NEAR(r(9, "i"), i, 1e-9);
+    EXPECT_NEAR(r(3, "d"), d, 1e-9);
+    auto setengahBusur = [&](double dek) { return acs(-tn(kPhi) * tn(dek) - (1 / cs(kPhi) / cs(dek)) * sn(d)); };
+    const double dS = asn(sn(e) * sn(syams));
+    const double qS = setengahBusur(dS);
+    EXPECT_NEAR(r(3, "½QN☉"), qS, kDetik);
+    const double aS = matholi(syams, std::fabs(asn(cs(syams) / cs(dS))));
+    EXPECT_NEAR(r(4, "α☉"), aS, kDetik);
+    const double d2 = std::atan(tn(e) * sn(qomar)) / kR, beta = asn(sn(i) * sn(hishshoh));
+    const double dQ = asn(sn(beta + d2) * cs(e) / cs(d2));
+    EXPECT_NEAR(r(11, "δ☽"), dQ, kDetik);
+    const double rata = (asn(sn(e) * sn(qomar)) + dQ) / 2;
+    EXPECT_NEAR(r(13, "δ̄"), rata, kDetik);
+    double q = cs(qomar) / cs(rata);
+    if (q >= 1) q = 1 / q;
+    const double aQ = matholi(qomar, std::fabs(asn(q)));
+    EXPECT_NEAR(r(14, "α☽"), aQ, kDetik);
+    const double qQ = setengahBusur(dQ), bud = aQ + qQ - (aS + qS);
+    EXPECT_NEAR(r(16, "Bu'd"), bud, kDetik);
+    const double h = asn(sn(kPhi) * sn(dQ) + cs(kPhi) * cs(dQ) * cs(qQ - bud));
+    EXPECT_NEAR(r(18, "h"), h, kDetik);
+    EXPECT_NEAR(r(19, "Mukts"), (h + bud) / 2 / 15, kDetik);
+    EXPECT_NEAR(r(24, "Nur"), (qomar - syams) / 15 + beta / 60, kDetik);
+    for (int b : {4, 14}) EXPECT_NE(r.teks.at(b).find(kRumusTetap), std::string::npos) << r.teks.at(b);
 }

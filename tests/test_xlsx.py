@@ -132,6 +132,88 @@ class Buku(unittest.TestCase):
             self.assertIn(arab.lstrip("-"), ws["A1"].value)
             self.assertEqual(wb["Kesimpulan"]["B13"].value.split(" ")[0], nama.split(" ")[0])
 
+    def test_each_step_of_a_precise_book_carries_its_formula_as_a_tip(self):
+        berkas = self.tulis("er.xlsx", "hisab", "--kitab", "ER", "--tahun", "1445", "--bulan", "8", "--markaz", "Jakarta")
+        ws = openpyxl.load_workbook(berkas).worksheets[0]
+        tips = {str(v.sqref): v for v in ws.data_validations.dataValidation}
+        self.assertEqual(len(tips), 50)
+        # The reckoning's rows name their step (column B) and its formula (column G); the tip
+        # of the step's value (column F) says the same, then the run's numbers.
+        for baris in range(57, 107):
+            tip = tips[f"F{baris}"]
+            self.assertTrue(tip.showInputMessage)
+            self.assertEqual(tip.promptTitle, ws[f"B{baris}"].value[:32], baris)
+            rumus, angka = tip.prompt.split("\n", 1)
+            self.assertEqual(rumus, ws[f"G{baris}"].value, baris)
+            self.assertIn(" = ", angka)
+        self.assertEqual(tips["F106"].promptTitle, "Kemiringan hilal")
+
+    def test_eclipse_sheets_laid_out_as_the_book(self):
+        gerhana = ["gerhana", "--kitab", "SN", "--markaz", "Jakarta"]
+        wb = openpyxl.load_workbook(self.tulis("gb.xlsx", *gerhana, "--jenis", "bulan", "--tahun", "1447", "--bulan", "3"))
+        self.assertEqual(wb.sheetnames, ["Gerhana Bulan 1447 H. 3", "Kesimpulan"])
+        ws = wb.worksheets[0]
+        self.assertTrue(ws.sheet_view.rightToLeft)
+        gabung = {str(r) for r in ws.merged_cells.ranges}
+        # A row label of the right block runs into the empty last column (column A), except
+        # where the place's name stands beside it.
+        self.assertIn("A9:B9", gabung)
+        self.assertIn("A57:B57", gabung)
+        self.assertNotIn("A35:B35", gabung)
+        self.assertEqual(ws["A35"].value, "Jakarta")
+        # The right block is boxed: its top right corner (column A of the worksheet) and its
+        # bottom left one; inside it no line.
+        self.assertEqual(ws["A8"].border.top.style, "thin")
+        self.assertEqual(ws["A8"].border.left.style, "thin")
+        self.assertEqual(ws["K57"].border.bottom.style, "thin")
+        self.assertEqual(ws["K57"].border.right.style, "thin")
+        self.assertIsNone(ws["E30"].border.left.style)
+        self.assertEqual(wb["Kesimpulan"]["A1"].value, "Sullam al-Nairoin")
+
+        wb = openpyxl.load_workbook(self.tulis("gm.xlsx", *gerhana, "--jenis", "matahari", "--tahun", "1437", "--bulan", "5"))
+        self.assertEqual(wb.sheetnames, ["Gerhana Matahari 1437 H. 5", "Ta'dil Kusuf", "Kesimpulan"])
+        self.assertIn("A44:B44", {str(r) for r in wb.worksheets[0].merged_cells.ranges})
+        tdl = wb["Ta'dil Kusuf"]
+        # The look-ups' table of 41 columns: the label column is A, the entry's columns B-H.
+        self.assertEqual(tdl["B2"].border.top.style, "thin")
+        self.assertEqual(tdl["H18"].border.right.style, "thin")
+        self.assertEqual(tdl["A3"].border.left.style, "thin")
+        # The sheets of one run share one conclusion.
+        self.assertEqual(sum(1 for r in wb["Kesimpulan"].iter_rows() if r[0].font.b), 1)
+
+        p = subprocess.run([FALAK, *gerhana, "--tahun", "1447", "--xlsx", os.path.join(self.dir, "x.xlsx")],
+                           env=self.env, capture_output=True, text=True)
+        self.assertEqual(p.returncode, 2)
+        self.assertIn("--bulan", p.stderr)
+
+    def test_the_year_calendar(self):
+        perintah = ["kalender", "--tahun", "2026", "--markaz", "Jakarta"]
+        wb = openpyxl.load_workbook(self.tulis("kalender.xlsx", *perintah))
+        hari = [h for b in json.loads(self.falak(*perintah, "--json"))["bulan"] for h in b["hari"]]
+        # A calendar has no conclusion.
+        self.assertEqual(wb.sheetnames, ["Kalender 2026 M. SN"])
+        ws = wb.worksheets[0]
+        self.assertFalse(ws.sheet_view.rightToLeft)
+        self.assertEqual(ws["A1"].value, "KALENDER TAHUN 2026 M.")
+        self.assertIn("A1:W1", {str(r) for r in ws.merged_cells.ranges})
+        self.assertEqual(ws["A3"].value, "JANUARI 2026 M.")
+        self.assertEqual([c.value for c in ws[5][:7]], ["Ahad", "Senin", "Selasa", "Rabu", "Kamis", "Ju'mat", "Sabtu"])
+        # 1 January 2026 is a Thursday: the first week of January has its first day under Kamis.
+        self.assertEqual([c.value for c in ws[6][:4]], [None] * 4)
+        kamis = ws["E6"].value
+        self.assertEqual(kamis.split(" ")[0], f"1/{hari[0]['hijriah']['tanggal']}")
+        self.assertEqual(kamis.split(" ")[1], hari[0]["pasaran"])
+        # Every first day of a Hijri month is boxed and names its month, and only those.
+        awal = {f"{h['masehi'][5:7]}-{h['hijriah']['namaBulan']}" for h in hari if h["awalBulan"]}
+        kotak = set()
+        for baris in ws.iter_rows():
+            for c in baris:
+                if c.border.top.style == "thin" and c.border.left.style == "thin" and c.border.right.style == "thin":
+                    self.assertEqual(c.value.split("/")[1].split(" ")[0], "1", c.coordinate)
+                    kotak.add(c.value.split(" ", 2)[2])
+        self.assertEqual(kotak, {a.split("-")[1] for a in awal})
+        self.assertEqual(len(awal), 12)
+
     def test_tips_and_a_left_to_right_sheet(self):
         berkas = os.path.join(self.dir, "contoh.xlsx")
         subprocess.run([CONTOH, berkas], check=True)

@@ -69,7 +69,9 @@ const std::vector<Opsi>& DaftarOpsi() {
         {"--xlsx", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .xlsx"},
 #ifdef FALAK_PDF
         {"--pdf", "BERKAS", "lembar hisab dan kesimpulannya ke berkas .pdf (satu halaman A4)"},
+        {"--odt", "BERKAS", "lembar rumus kitab tahqiqi ke berkas .odt (pengolah kata)"},
 #else
+        {"--odt", "BERKAS", "tidak tersedia: falak ini dibangun tanpa Qt"},
         {"--pdf", "BERKAS", "tidak tersedia: falak ini dibangun tanpa Qt"},
 #endif
         {"--batch", "", "operasi satu per baris dari masukan baku"},
@@ -91,18 +93,20 @@ const std::vector<Perintah>& DaftarPerintah() {
     static const std::vector<Perintah> daftar = {
         {"hisab", "", 0, 0,
          {{"--kitab"}, {"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--pdf"},
-          {"--rumus"}, {"--deltat"}},
+          {"--rumus"}, {"--odt"}, {"--deltat"}},
          "ijtima' dan hilal akhir bulan itu menurut satu kitab: lembar kerja dan kesimpulannya", perintahHisab},
         {"semua", "", 0, 0, {{"--tahun", Wajib}, {"--bulan", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--deltat"}},
          "ijtima' dan awal bulan menurut semua kitab, satu baris sekitab", perintahSemua},
         {"setahun", "", 0, 0, {{"--kitab"}, {"--tahun", Wajib}, {"--markaz"}, {"--json"}, {"--xlsx"}},
          "dua belas bulan setahun menurut satu kitab (--kitab semua: menurut semua kitab)", perintahSetahun},
         {"gerhana", "", 0, 0,
-         {{"--jenis"}, {"--kitab"}, {"--tahun", Wajib}, {"--sampai"}, {"--bulan"}, {"--markaz"}, {"--json"}},
+         {{"--jenis"}, {"--kitab"}, {"--tahun", Wajib}, {"--sampai"}, {"--bulan"}, {"--markaz"}, {"--json"}, {"--xlsx"},
+          {"--pdf"}},
          "gerhana yang ditemukan kitab itu, satu per baris dengan waktu fasenya (--bulan: lembar kerja "
          "dan kesimpulan gerhana bulan itu)",
          perintahGerhana},
-        {"kalender", "", 0, 0, {{"--tahun", Wajib}, {"--hijriah"}, {"--kitab"}, {"--markaz"}, {"--json"}},
+        {"kalender", "", 0, 0,
+         {{"--tahun", Wajib}, {"--hijriah"}, {"--kitab"}, {"--markaz"}, {"--json"}, {"--xlsx"}, {"--pdf"}},
          "kalender setahun: tanggal Hijriyah dan pasaran tiap hari, awal bulan Hijriyah ditandai *", perintahKalender},
         {"tempat daftar", "", 0, 0, {}, "daftar tempat dan berkas yang dipakai", perintahTempatDaftar},
         {"tempat tambah", "NAMA", 1, 1,

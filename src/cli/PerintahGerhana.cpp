@@ -7,6 +7,10 @@
 #include "core/Angka.h"
 #include "core/Daerah.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
+#ifdef FALAK_PDF
+#include "export/Cetak.h"
+#endif
 #include "run/Workspace.h"
 
 namespace falak::cli {
@@ -46,6 +50,20 @@ int satuBulan(Workspace& ws, Garapan jenis, const Pilihan& p, int bulan, const A
     const auto hasil = ws.mnuProsesGerhana(jenis, p.kitab, p.tahun, bulan, p.tempat);
     if (hasil.pesan) return Tolak(a, l, hasil.pesan->teks);
     const LembarKerja& tab = *hasil.lembar;
+    // The eclipse's sheets: a solar eclipse adds the sheet of its look-ups.
+    std::vector<const LembarKerja*> semua;
+    for (const auto& lembar : ws.lembar) semua.push_back(lembar.get());
+    if (a.ada("--xlsx")) {
+        if (const std::string salah = EksporExcel(semua, true, ws.koneksi, a.teks("--xlsx")); !salah.empty())
+            return Tolak(a, l, salah);
+    }
+    if (a.ada("--pdf")) {
+#ifdef FALAK_PDF
+        if (const std::string salah = CetakPdf(semua, ws.koneksi, a.teks("--pdf")); !salah.empty()) return Tolak(a, l, salah);
+#else
+        return Tolak(a, l, "--pdf tidak tersedia: falak ini dibangun tanpa Qt");
+#endif
+    }
     if (p.json) {
         out << "{\"kitab\": " << jsonTeks(p.kitab) << ", \"kunci\": " << jsonTeks(tab.kunci) << ", ";
         tulisGerhanaJson(out, *tab.gerhana);
@@ -110,6 +128,8 @@ int perintahGerhana(const Argumen& a, const Lingkungan& l) {
         p.sampai = a.bulat("--sampai");
         if (p.sampai < a.bulat("--tahun")) throw SalahPakai{"--sampai tidak boleh sebelum --tahun"};
     }
+    if (!a.ada("--bulan") && (a.ada("--xlsx") || a.ada("--pdf")))
+        throw SalahPakai{"--xlsx dan --pdf memerlukan --bulan: lembar kerja satu gerhana"};
     ClsConnection koneksi(l.lokasi);
     Workspace ws(koneksi);
     l.err << LaporanMasalah(ws.masalahTabel());

@@ -11,6 +11,7 @@
 #include "export/Excel.h"
 #ifdef FALAK_PDF
 #include "export/Cetak.h"
+#include "export/Word.h"
 #endif
 #include "run/Workspace.h"
 
@@ -88,6 +89,16 @@ int perintahHisab(const Argumen& a, const Lingkungan& l) {
 #endif
     }
     const auto rumus = ws.rumus.tampil(tab.kunci);
+    if (a.ada("--odt")) {
+#ifdef FALAK_PDF
+        if (!rumus) return Tolak(a, l, "kitab " + std::string(tab.modul->nama) + " tidak punya lembar rumus");
+        const std::string keterangan = tab.judul + " - " + ws.sesi.namaKitab + ", " + ws.sesi.tempat.nama;
+        if (const std::string salah = TulisRumusOdt(*rumus->lembar, keterangan, a.teks("--odt")); !salah.empty())
+            return Tolak(a, l, salah);
+#else
+        return Tolak(a, l, "--odt tidak tersedia: falak ini dibangun tanpa Qt");
+#endif
+    }
     if (a.ada("--json")) {
         tulisJson(l.out, tab, ws.sesi, ws.sesi.tempat, rumus ? rumus->lembar : nullptr);
         return 0;

@@ -7,6 +7,10 @@
 #include "core/Angka.h"
 #include "core/Daerah.h"
 #include "core/Koneksi.h"
+#include "export/Excel.h"
+#ifdef FALAK_PDF
+#include "export/Cetak.h"
+#endif
 #include "run/ProsesKalender.h"
 
 namespace falak::cli {
@@ -104,6 +108,18 @@ int perintahKalender(const Argumen& a, const Lingkungan& l) {
     if (h.pesan) {
         if (h.masukanSalah) throw SalahPakai{h.pesan->judul + ": " + h.pesan->teks};
         return Tolak(a, l, h.pesan->teks);
+    }
+    const LembarKerja kerja = LembarKerjaKalender(h);
+    if (a.ada("--xlsx")) {
+        if (const std::string salah = EksporExcel({&kerja}, true, koneksi, a.teks("--xlsx")); !salah.empty())
+            return Tolak(a, l, salah);
+    }
+    if (a.ada("--pdf")) {
+#ifdef FALAK_PDF
+        if (const std::string salah = CetakPdf({&kerja}, koneksi, a.teks("--pdf")); !salah.empty()) return Tolak(a, l, salah);
+#else
+        return Tolak(a, l, "--pdf tidak tersedia: falak ini dibangun tanpa Qt");
+#endif
     }
     if (a.ada("--json")) {
         tulisJson(l.out, *h.kalender, h, ws.sesi.tempat.nama);

@@ -357,6 +357,16 @@ std::string ClsKesimpulan::baris(std::string_view nama, int lintangDerajat, int 
                            std::to_string(bujurMenit) + "'" + (tandaBujur != 0 ? " BT" : " BB")}));
 }
 
+std::string ClsKesimpulan::barisMarkaz(const TitikMarkaz& m) {
+    return baris(m.nama ? m.nama : "", m.lintangDerajat, m.lintangMenit, m.tandaLintang, m.bujurDerajat, m.bujurMenit,
+                 m.tandaBujur);
+}
+
+std::string ClsKesimpulan::barisTempat(const Tempat& t) {
+    return baris(t.nama, t.lintangDerajat, t.lintangMenit, static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
+                 t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur)));
+}
+
 }  // namespace falak
 
 namespace falak {

@@ -21,6 +21,13 @@
 
 namespace falak {
 
+// A markaz as a conclusion line names it (flags: non-zero is north, east).
+struct TitikMarkaz {
+    const char* nama;
+    int lintangDerajat, lintangMenit, tandaLintang;
+    int bujurDerajat, bujurMenit, tandaBujur;
+};
+
 class ClsKesimpulan {
 public:
     explicit ClsKesimpulan(Sesi& sesi) : sesi_(sesi) {}
@@ -88,6 +95,9 @@ public:
     // A place line: name, latitude and longitude with their sides.
     static std::string baris(std::string_view nama, int lintangDerajat, int lintangMenit, int tandaLintang,
                              int bujurDerajat, int bujurMenit, int tandaBujur);
+    // The same line for the markaz a treatise reckons from, and for the session's place.
+    static std::string barisMarkaz(const TitikMarkaz& m);
+    static std::string barisTempat(const Tempat& t);
 
 private:
     Sesi& sesi_;

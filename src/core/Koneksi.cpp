@@ -14,7 +14,7 @@ std::vector<Tabel*> ClsConnection::semua() {
             &Refraksi,        &TafawutWIB, &TQQDaqoiqAhTaf, &TQQImkanGerhana, &TQQRumuz,
             &TQQSaah,     &TQQSyahru,       &TQQTaadil,  &TQQthMab,    &TQQYaumTam,     &TRBSyahru,
             &TRBSyahruSH, &TRBTaadil,       &TRBTaadilSH, &TRBthMabSH, &TdlTA1,         &TdlTA2,     &ERBumi,
-            &TaadilKal1,  &TaadilKal2,      &TaadilKal3};
+            &TaadilKal1,  &TaadilKal2,      &TaadilKal3, &Validation};
 }
 
 Tabel* ClsConnection::tabel(std::string_view nama) {

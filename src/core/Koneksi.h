@@ -56,7 +56,7 @@ public:
         TQQthMab{"TQQthMab"}, TQQYaumTam{"TQQYaumTam"}, TRBSyahru{"TRBSyahru"}, TRBSyahruSH{"TRBSyahruSH"},
         TRBTaadil{"TRBTaadil"}, TRBTaadilSH{"TRBTaadilSH"}, TRBthMabSH{"TRBthMabSH"}, TdlTA1{"TdlTA1"},
         TdlTA2{"TdlTA2"}, ERBumi{"ERBumi"}, TaadilKal1{"TaadilKal1"}, TaadilKal2{"TaadilKal2"},
-        TaadilKal3{"TaadilKal3"};
+        TaadilKal3{"TaadilKal3"}, Validation{"Validation"};
 
     // Every table in the order of opening.
     std::vector<Tabel*> semua();

@@ -229,18 +229,19 @@ void LukisLembar(QPagedPaintDevice& kertas, const std::vector<const LembarKerja*
     if (p.isActive()) p.end();
 }
 
+std::unique_ptr<QGuiApplication> AplikasiTanpaLayar() {
+    if (QGuiApplication::instance()) return nullptr;
+    static int argc = 1;
+    static char nama[] = "falak";
+    static char* argv[] = {nama, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 std::string CetakPdf(const std::vector<const LembarKerja*>& lembar, const ClsConnection& koneksi,
                      const std::filesystem::path& berkas) {
     if (lembar.empty()) return "Tidak ada lembar hisab untuk dicetak.";
-    // The command line has no application of its own: one without a screen lays out the text.
-    std::unique_ptr<QGuiApplication> aplikasi;
-    if (!QGuiApplication::instance()) {
-        static int argc = 1;
-        static char nama[] = "falak";
-        static char* argv[] = {nama, nullptr};
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        aplikasi = std::make_unique<QGuiApplication>(argc, argv);
-    }
+    const auto aplikasi = AplikasiTanpaLayar();
     QByteArray isi;
     {
         QBuffer buffer(&isi);

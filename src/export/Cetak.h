@@ -6,7 +6,10 @@
 // search and copy the words.
 #pragma once
 
+#include <QGuiApplication>
+
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -20,6 +23,10 @@ struct LembarKerja;
 // Paints the sheets, one page each, on a device whose painting has not begun (a PDF writer, a
 // printer). The page turns to landscape when a sheet is wider than tall.
 void LukisLembar(QPagedPaintDevice& kertas, const std::vector<const LembarKerja*>& lembar, const ClsConnection& koneksi);
+
+// The command line has no application of its own: this starts one without a screen, which lays
+// out the text, for as long as it is kept; none when an application runs already.
+std::unique_ptr<QGuiApplication> AplikasiTanpaLayar();
 
 // The same into a PDF file, written whole or not at all. Without a running Qt application (on
 // the command line) one is started on the offscreen platform for the while. Empty text, or

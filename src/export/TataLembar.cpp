@@ -60,6 +60,7 @@ std::string AkhiranTata(std::string_view kunci) {
 }
 
 void TerapkanTata(Sheet& lembar, const ClsConnection& koneksi, std::string_view akhiran) {
+    if (akhiran.empty()) return;  // a sheet of no book (the calendar) is laid out by itself
     const std::string x(akhiran);
     // Khulashotu's clear column has always been spelled so.
     const std::string kolomBersih = x == "KW1" ? "ClearTxtKWI" : "ClearTxt" + x;

@@ -19,6 +19,8 @@ namespace {
 const std::vector<AnggotaRumus>& anggota() {
     static const std::vector<AnggotaRumus> daftar = {
         {"ER", 48, 50, {}, {3, 5, 6, 32, 33}, "RUMUS IJTIMA EPHEMERIS", "RUMUS IJTIMA EPHEMERIS"},
+        {"BM", 31, 27, {5, 15}, {1, 7, 8, 9, 11, 19, 20}, "RUMUS BADIATUL MITSAL", "RUMUS IJTIMA METODE BADIATUL MITSAL"},
+        {"NA", 41, 24, {4, 14}, {1, 6, 7, 8, 10, 18, 19}, "RUMUS MURUL ANWAR", "RUMUS MURUL ANWAR"},
     };
     return daftar;
 }
@@ -117,6 +119,20 @@ LembarRumus BangunRumus(const AnggotaRumus& a, Tabel& t, std::span<const Nilai> 
         t.moveNext();
     }
     return l;
+}
+
+void PasangTipRumus(Sheet& lembar, const Tabel& validation, const LembarRumus& rumus) {
+    const AnggotaRumus* a = CariAnggotaRumus(rumus.kodeLembar);
+    if (!a) return;
+    const int kolom = validation.indeksKolom(std::string(a->kolom));
+    if (kolom < 0) return;
+    const size_t n = std::min(validation.jumlahBaris(), rumus.baris.size());
+    for (size_t i = 0; i < n; ++i) {
+        Rentang sel;
+        if (!BacaRentang(validation.sel(i, static_cast<size_t>(kolom)), sel)) continue;
+        const BarisRumus& b = rumus.baris[i];
+        lembar.tip(sel.baris1, sel.kolom1, b.nama, b.rumuz + "\n" + b.isi);
+    }
 }
 
 int DaftarRumus::tambah(std::string kunciTab, LembarRumus lembar) {

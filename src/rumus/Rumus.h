@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "core/Nilai.h"
+#include "core/Sheet.h"
 
 namespace falak {
 
@@ -61,6 +62,12 @@ std::string IsiVariabel(std::string_view daftar, const AnggotaRumus& a, std::spa
 // Builds the sheet of a run from the table's rows.
 LembarRumus BangunRumus(const AnggotaRumus& a, Tabel& tqqRumuz, std::span<const Nilai> hasil1,
                         std::span<const Nilai> hasil2 = {});
+
+// The formula tips of a run's worked sheet. The table Validation names, in the column of the
+// book (the prefix of its formula columns: "ER"), the cell that shows each step, row i for
+// step i; that cell gets the step's name as title and its formula and numbers as text. An
+// empty or unreadable address, or one off the sheet, is skipped.
+void PasangTipRumus(Sheet& lembar, const Tabel& validation, const LembarRumus& rumus);
 
 // The sheets of a session, each under the key of the tab of its run.
 class DaftarRumus {

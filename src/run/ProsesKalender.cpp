@@ -23,6 +23,16 @@ bool tahunAngka(const std::string& teks) {
 
 }  // namespace
 
+LembarKerja LembarKerjaKalender(const HasilKalender& h) {
+    LembarKerja l;
+    l.kunci = "Kalender";
+    l.judul = "Kalender " + std::to_string(h.kalender->tahun) + (h.kalender->hijriah ? " H. " : " M. ") +
+              std::string(h.kitab->kode);
+    l.modul = h.kitab;
+    l.lembar = LembarKalender(*h.kalender);
+    return l;
+}
+
 double BujurKalender(const Tempat& tempat) {
     const double bujur = tempat.bujurDerajat + tempat.bujurMenit / 60.0;
     return tempat.tandaBujur == "0" ? -bujur : bujur;

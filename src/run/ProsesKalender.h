@@ -26,6 +26,11 @@ struct HasilKalender {
 HasilKalender ProsesKal12(Workspace& ws, const std::string& kodeKitab, const std::string& tahunTeks, bool hijriah,
                           const std::string& namaTempat);
 
+// The calendar as a work sheet for the spreadsheet and the printed page: its caption names the
+// year and the book ("Kalender 2026 M. SN"), its key is not a module's, so no book's layout
+// is laid over it.
+LembarKerja LembarKerjaKalender(const HasilKalender& h);
+
 // The place's longitude in degrees, east positive, as the calendar reads it.
 double BujurKalender(const Tempat& tempat);
 

@@ -39,7 +39,8 @@ std::vector<std::string_view> tabelBulan(std::initializer_list<std::string_view>
 
 // The tables of the books of mean motions and equations.
 std::vector<std::string_view> tabelTahqiqi() {
-    return tabelBulan({"TQQthMab", "TQQSyahru", "TQQYaumTam", "TQQSaah", "TQQDaqoiqAhTaf", "TQQTaadil"});
+    return tabelBulan({"TQQthMab", "TQQSyahru", "TQQYaumTam", "TQQSaah", "TQQDaqoiqAhTaf", "TQQTaadil",
+                       "TQQRumuz"});
 }
 
 // The tables of a lunar eclipse, and of a solar one, which reads the rising times besides.

@@ -214,7 +214,10 @@ LembarKerja* Workspace::Proses(const EntriModul& entri, Modul& m, int32_t tahun,
         lembar.push_back(std::move(tab));
     }
     // The formula sheet stays under the key of the run's first tab.
-    if (h.rumus && pertama < lembar.size()) rumus.tambah(lembar[pertama]->kunci, std::move(*h.rumus));
+    if (h.rumus && pertama < lembar.size()) {
+        PasangTipRumus(lembar[pertama]->lembar, koneksi.Validation, *h.rumus);
+        rumus.tambah(lembar[pertama]->kunci, std::move(*h.rumus));
+    }
     return lembar.at(pertama).get();
 }
 

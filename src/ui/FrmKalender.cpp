@@ -1,6 +1,7 @@
 #include "ui/FrmKalender.h"
 
 #include <QComboBox>
+#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -9,6 +10,7 @@
 #include <QVBoxLayout>
 
 #include "calendar/ModHisabKalender.h"
+#include "export/Excel.h"
 #include "run/ProsesKalender.h"
 #include "ui/KotakPesan.h"
 #include "ui/ModelLembar.h"
@@ -47,6 +49,10 @@ FrmKalender::FrmKalender(Workspace& ws, const QString& tempat, QWidget* induk)
     proses_ = new QPushButton(QStringLiteral("Proses"));
     proses_->setObjectName("ProsesKal12");
     proses_->setDefault(true);
+    // Nothing to send before a calendar is drawn.
+    kirim_ = new QPushButton(QStringLiteral("Kirim ke Excel"));
+    kirim_->setObjectName("KirimKalender");
+    kirim_->setEnabled(false);
     keterangan_ = new QLabel;
     keterangan_->setObjectName("lblSumber");
 
@@ -59,6 +65,7 @@ FrmKalender::FrmKalender(Workspace& ws, const QString& tempat, QWidget* induk)
     atas->addWidget(new QLabel(QStringLiteral("Metode")));
     atas->addWidget(metode_);
     atas->addWidget(proses_);
+    atas->addWidget(kirim_);
     atas->addStretch(1);
     tata_ = new QVBoxLayout(this);
     tata_->addLayout(atas);
@@ -66,6 +73,7 @@ FrmKalender::FrmKalender(Workspace& ws, const QString& tempat, QWidget* induk)
 
     connect(proses_, &QPushButton::clicked, this, &FrmKalender::ProsesKal12);
     connect(tahun_, &QLineEdit::returnPressed, this, &FrmKalender::ProsesKal12);
+    connect(kirim_, &QPushButton::clicked, this, &FrmKalender::KirimExcel);
 }
 
 void FrmKalender::ProsesKal12() {
@@ -82,13 +90,28 @@ void FrmKalender::ProsesKal12() {
         }
         return;
     }
-    lembar_ = LembarKalender(*h.kalender);
     delete grid_;
-    grid_ = new GridLembar(lembar_);
+    kerja_ = LembarKerjaKalender(h);
+    grid_ = new GridLembar(kerja_.lembar);
     grid_->setObjectName("gridKalender");
     tata_->addWidget(grid_, 1);
     keterangan_->setText(h.dariModul ? QStringLiteral("Awal bulan menurut hisab kitabnya sendiri.")
                                      : QStringLiteral("Awal bulan menurut hisab kalender (taqribi ringkas)."));
+    kirim_->setEnabled(true);
+}
+
+void FrmKalender::KirimExcel() {
+    auto* dialog = new QFileDialog(this, QStringLiteral("Kirim ke Excel"), QString::fromStdString(kerja_.judul) + ".xlsx",
+                                   QStringLiteral("Buku kerja Excel (*.xlsx)"));
+    dialog->setObjectName("dlgKirimKalender");
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("xlsx"));
+    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& berkas) {
+        const std::string salah = EksporExcel({&kerja_}, true, ws_.koneksi, berkas.toStdString());
+        if (!salah.empty()) BukaPesan(this, QMessageBox::Warning, QStringLiteral("Gagal"), QString::fromStdString(salah));
+    });
+    dialog->open();
 }
 
 }  // namespace falak::ui

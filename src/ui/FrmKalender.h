@@ -1,14 +1,14 @@
 // The year calendar window: a year, Masehi or Hijri, and a book from the calendar's list; the
 // twelve months with the Hijri day and the pasaran in every day's cell and the first days of
 // the Hijri months boxed. The calendar is the sheet that the command line and the
-// spreadsheet show.
+// spreadsheet show; "Kirim ke Excel" writes it to a workbook chosen in a save dialog.
 #pragma once
 
 #include <QDialog>
 
 #include <memory>
 
-#include "core/Sheet.h"
+#include "run/Workspace.h"
 
 class QComboBox;
 class QLabel;
@@ -16,10 +16,6 @@ class QLineEdit;
 class QPushButton;
 class QRadioButton;
 class QVBoxLayout;
-
-namespace falak {
-class Workspace;
-}
 
 namespace falak::ui {
 
@@ -33,16 +29,19 @@ public:
 
     // ProsesKal12: reckons the calendar of the year in the box, or says what is wrong.
     void ProsesKal12();
-    const Sheet& lembar() const { return lembar_; }
+    // Asks for a file (the dialog "dlgKirimKalender") and writes the calendar's workbook.
+    void KirimExcel();
+    const Sheet& lembar() const { return kerja_.lembar; }
 
 private:
     Workspace& ws_;
     QString tempat_;
-    Sheet lembar_;
+    LembarKerja kerja_;
     QLineEdit* tahun_;
     QRadioButton *masehi_, *hijri_;
     QComboBox* metode_;
     QPushButton* proses_;
+    QPushButton* kirim_;
     QLabel* keterangan_;
     QVBoxLayout* tata_;
     GridLembar* grid_ = nullptr;

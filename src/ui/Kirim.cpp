@@ -6,6 +6,7 @@
 
 #include "export/Cetak.h"
 #include "export/Excel.h"
+#include "export/Word.h"
 #include "ui/FrmHisab.h"
 #include "ui/KotakPesan.h"
 #include "ui/ModMenu.h"
@@ -33,6 +34,35 @@ void KirimExcel(FrmHisab& jendela, BagianKirim bagian) {
         if (!salah.empty())
             BukaPesan(&jendela, QMessageBox::Warning, QStringLiteral("Gagal"), QString::fromStdString(salah));
     });
+    dialog->open();
+}
+
+void KirimRumus(FrmHisab& jendela) {
+    if (!AdaGarapan(jendela)) return;
+    const LembarKerja& lembar = *jendela.lembarAktif();
+    const auto rumus = jendela.ruangKerja().rumus.tampil(lembar.kunci);
+    if (!rumus) {
+        BukaPesan(&jendela, QMessageBox::Critical, QStringLiteral("Ojok gerusa gerusu...!"),
+                  QStringLiteral("Export tidak dapat dilakukan, rumus hisab belum ada.\n"
+                                 "Rumus hanya ada pada garapan hisab tahqiqi; pilihlah lembarnya sebelum "
+                                 "mengExport rumusnya ke Word."));
+        return;
+    }
+    auto* dialog = new QFileDialog(&jendela, QStringLiteral("Kirim Rumus ke Word"),
+                                   QString::fromUtf8(lembar.judul) + QStringLiteral(" Rumus.odt"),
+                                   QStringLiteral("Dokumen teks OpenDocument (*.odt)"));
+    dialog->setObjectName("dlgKirimRumus");
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setAcceptMode(QFileDialog::AcceptSave);
+    dialog->setDefaultSuffix(QStringLiteral("odt"));
+    // The document is the sheet of the run chosen now, kept though its tab may close meanwhile.
+    const std::string keterangan = lembar.judul + " - " + (lembar.modul ? std::string(lembar.modul->nama) : std::string());
+    QObject::connect(dialog, &QFileDialog::fileSelected, &jendela,
+                     [&jendela, isi = *rumus->lembar, keterangan](const QString& berkas) {
+                         const std::string salah = TulisRumusOdt(isi, keterangan, berkas.toStdString());
+                         if (!salah.empty())
+                             BukaPesan(&jendela, QMessageBox::Warning, QStringLiteral("Gagal"), QString::fromStdString(salah));
+                     });
     dialog->open();
 }
 

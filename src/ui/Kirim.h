@@ -1,5 +1,6 @@
-// The commands by which the work sheets leave the window: to a spreadsheet file, chosen in a
-// save dialog, and to the printer through the print preview.
+// The commands by which the work sheets leave the window: to a spreadsheet file or, for a
+// formula sheet, a text document, chosen in a save dialog, and to the printer through the
+// print preview.
 #pragma once
 
 namespace falak::ui {
@@ -13,6 +14,11 @@ enum class BagianKirim { HalamanIni, Keterangan, Semua };
 // Asks for a file (the dialog "dlgKirimExcel") and writes the workbook; the export guard's
 // message when no sheet exists, a message when the file cannot be written.
 void KirimExcel(FrmHisab& jendela, BagianKirim bagian);
+
+// Asks for a file (the dialog "dlgKirimRumus") and writes the formula sheet of the sheet in
+// front as a text document; the export guard's message when no sheet exists, and its like when
+// the sheet in front has no formula sheet (a book that works without one).
+void KirimRumus(FrmHisab& jendela);
 
 // The print preview (the dialog "dlgCetak") of the sheet in front and its conclusion, from
 // which the user prints; the export guard's message when no sheet exists.

@@ -37,6 +37,7 @@ void bukaKalender(FrmHisab& j, QAction&) {
 void eksporIni(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::HalamanIni); }
 void eksporKet(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Keterangan); }
 void eksporSemua(FrmHisab& j, QAction&) { KirimExcel(j, BagianKirim::Semua); }
+void eksporRumus(FrmHisab& j, QAction&) { KirimRumus(j); }
 void cetak(FrmHisab& j, QAction&) { Cetak(j); }
 
 // One book's eclipse of the chosen month, on a sheet as a month's reckoning opens.
@@ -149,7 +150,7 @@ const std::vector<ItemMenu>& DaftarMenu() {
         Perintah("mnuExport", "mnuExportThis", "&Halaman Ini Saja", eksporIni, QKeySequence(Qt::CTRL | Qt::Key_E)),
         Perintah("mnuExport", "mnuExportKet", "&Keterangan Saja", eksporKet),
         Perintah("mnuExport", "mnuExportAll", "Se&mua", eksporSemua, QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_E)),
-        Perintah("FILE", "mnuExportRumus", "Kirim Rumus ke Word (&Export to Word)", nullptr),
+        Perintah("FILE", "mnuExportRumus", "Kirim Rumus ke Word (&Export to Word)", eksporRumus),
         Pemisah("FILE", "SEPARATOR1"),
         Perintah("FILE", "mnuPrint", "Cetak (&Print)", cetak, QKeySequence::Print),
         Pemisah("FILE", "SEPARATOR2"),

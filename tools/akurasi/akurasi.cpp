@@ -85,6 +85,20 @@ double ijtimaSejati(double jd) {
     return jd;
 }
 
+// The conjunction as the modern reckoning defines it: the apparent Moon on the geometric Sun
+// (no aberration, no nutation), nearest to jd.
+double ijtimaGeometris(double jd) {
+    for (int i = 0; i < 20; ++i) {
+        double m[6], s[6];
+        posisi(jd, SE_MOON, 0, m);
+        posisi(jd, SE_SUN, SEFLG_NOABERR | SEFLG_NONUT, s);
+        const double d = bujurBeda(m[0], s[0]);
+        jd -= d / (m[3] - s[3]);
+        if (std::fabs(d) < 1e-7) break;
+    }
+    return jd;
+}
+
 // The conjunction that ends Hijri month (tahun, bulan): near the 29th of the month of the
 // arithmetical calendar (1 Muharram 1 = JD 1948439.5).
 double ijtimaAkhirBulan(int tahun, int bulan) {
@@ -141,6 +155,15 @@ double gurubSesudah(double jdUt, double lintang, double bujur, int tepi = 0) {
     return t;
 }
 
+// The same sunset seen from a height of `meter`, under the horizon lowered by the dip that the
+// Swiss Ephemeris reckons for that height (its horizon height -100).
+double gurubDariKetinggian(double jdUt, double lintang, double bujur, double meter) {
+    double geo[3] = {bujur, lintang, meter}, t = 0;
+    char err[256];
+    swe_rise_trans_true_hor(jdUt, SE_SUN, nullptr, SEFLG_SWIEPH, SE_CALC_SET, geo, 1013.25, 15, -100, &t, err);
+    return t;
+}
+
 // Local apparent time of a UT instant, as a JD of the local clock.
 double waktuHakiki(double jdUt, double bujur) {
     double e = 0;
@@ -163,7 +186,8 @@ void ukurEphemeris(Workspace& ws, const char* tempat, double lintang, double buj
     ws.pilihTempat(tempat);
     ws.sesi.deltaT = deltaT;
     auto* er = dynamic_cast<Ephemeris*>(ws.modul("ER"));
-    Stat ij, gurub, tinggi, elong;
+    Stat ij, ijGeometris, gurub, gurubCelup, tinggi, elong;
+    const double meter = ws.sesi.tempat.tinggi;
     for (int tahun = 1400; tahun <= 1500; ++tahun)
         for (int bulan = 1; bulan <= 12; ++bulan) {
             er->HitungIjtimaER(tahun, static_cast<int16_t>(bulan), false);
@@ -173,9 +197,11 @@ void ukurEphemeris(Workspace& ws, const char* tempat, double lintang, double buj
             const double jdIjtima = jd0 + (R[8] + (er->ERGeser ? 24 : 0) - R[7]) / 24;
             const double selisihIjtima = (jdIjtima - ijtimaSejati(jdIjtima)) * 1440;
             ij.tambah(selisihIjtima);
+            ijGeometris.tambah((jdIjtima - ijtimaGeometris(jdIjtima)) * 1440);
             // Its sunset, on the clock of the second day of its table, and the sky's.
             const double jdGurub = jd0 + (24 + R[30]) / 24;
             gurub.tambah((jdGurub - gurubSesudah(jd0 + 1 + (12 - bujur / 15) / 24, lintang, bujur)) * 1440);
+            gurubCelup.tambah((jdGurub - gurubDariKetinggian(jd0 + 1 + (12 - bujur / 15) / 24, lintang, bujur, meter)) * 1440);
             const double selisihTinggi = (R[35] - tinggiGeosentris(jdGurub, lintang, bujur)) * 60;
             tinggi.tambah(selisihTinggi);
             // A month off by more than an hour or a degree is named, so that it can be looked into.
@@ -192,6 +218,10 @@ void ukurEphemeris(Workspace& ws, const char* tempat, double lintang, double buj
                 tempat, deltaT ? "delta T" : "book", ij.rata(), ij.rataMutlak(), ij.maks, gurub.rata(), gurub.rataMutlak(),
                 gurub.maks, tinggi.rata(), tinggi.rataMutlak(), tinggi.maks, elong.rata(), elong.rataMutlak(), elong.maks,
                 ij.n);
+    std::printf("%-8s %-7s |   against the apparent moon on the geometric sun: %+6.2f %6.2f %+7.2f; sunset under the dip"
+                " of %.0f m: %+6.2f %6.2f %+7.2f\n",
+                "", "", ijGeometris.rata(), ijGeometris.rataMutlak(), ijGeometris.maks, meter, gurubCelup.rata(),
+                gurubCelup.rataMutlak(), gurubCelup.maks);
 }
 
 double jdSipil(const Nilai& tanggal) {

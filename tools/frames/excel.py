@@ -1,7 +1,9 @@
 #!/usr/bin/env python3
 """Writes the tables by which a worked sheet is laid out when it leaves the program (spreadsheet,
 printed page): data/MergenExcel.csv (cells to show as one), data/ClearTxtMargen.csv (cells to
-empty first) and data/Lines.csv (the lines of the book's table).
+empty first) and data/Lines.csv (the lines of the book's table); and data/Validation.csv, the
+cell of each step of a precise book's formula sheet, which carries that step's formula as its
+tip.
 
 Each treatise X has one column in each table (MergnX, ClearTxtX, Lines_X; Khulashotu's clear
 column is ClearTxtKWI), one range a row, read from the first row to the last; an empty cell is
@@ -137,6 +139,79 @@ def ephemeris():
     return [], [], lines
 
 
+def khusuf():
+    """The lunar eclipse of the taqribi skeleton, a sheet of 58 by 40 (frames.khusuf_sullam): the
+    top block of the month's sheets, the right block of steps (rows 8 to 56, the place beside
+    row 34), the look-ups of five lines in the middle and at the left, and the double look-ups
+    of eleven (the fingers in the middle, the half durations at the left)."""
+    merge, lines = [], []
+
+    def garis(r, sisi):
+        lines.append(f"{r}|{sisi}")
+
+    garis(rentang(1, 9, 6, 39), KOTAK)
+    garis(rentang(2, 9, 2, 39), BAWAH + LUAR)
+    garis(rentang(6, 9, 6, 39), ATAS + LUAR)
+    kotakBlok(garis, 7, 29, 56, 39)
+    for b in (8, 16, 24, 32):
+        kotakBlok(garis, b, 11, b + 5, 27)
+    for b in (8, 16, 24):
+        kotakBlok(garis, b, 1, b + 5, 10)
+    kotakBlok(garis, 40, 11, 51, 27)
+    kotakBlok(garis, 32, 1, 43, 10)
+    kotakBlok(garis, 46, 1, 57, 10)
+    merge += [rentang(b, 38, b, 39) for b in range(8, 57) if b != 34]
+    return merge, [], lines
+
+
+def kusuf():
+    """The solar eclipse of the taqribi skeleton, a sheet of 47 by 40 (frames.kusuf_sullam): the
+    top block, the right block of steps (rows 8 to 43), the place's rows in the middle (8 to 45)
+    and the three double look-ups at the left (13 rows each from row 8), all under the field
+    headings of row 7."""
+    merge, lines = [], []
+
+    def garis(r, sisi):
+        lines.append(f"{r}|{sisi}")
+
+    garis(rentang(1, 9, 6, 39), KOTAK)
+    garis(rentang(2, 9, 2, 39), BAWAH + LUAR)
+    garis(rentang(6, 9, 6, 39), ATAS + LUAR)
+    kotakBlok(garis, 7, 29, 43, 39)
+    kotakBlok(garis, 7, 11, 45, 27)
+    kotakBlok(garis, 7, 1, 46, 10)
+    for b in (21, 34):
+        garis(rentang(b, 1, b, 10), ATAS + LUAR)
+    merge += [rentang(b, 38, b, 39) for b in range(8, 44)]
+    return merge, [], lines
+
+
+def tadil_kusuf():
+    """The look-ups of the solar eclipse, a sheet of 18 by 41 (frames.koreksi_kusuf): one row a
+    look-up under the headings of row 1, its five lines side by side, eight columns each, from
+    the right (columns 33-39 the entry)."""
+    lines = []
+
+    def garis(r, sisi):
+        lines.append(f"{r}|{sisi}")
+
+    garis(rentang(1, 1, 17, 40), KOTAK)
+    garis(rentang(1, 1, 1, 40), BAWAH + LUAR)
+    for i in range(5):
+        garis(rentang(1, 33 - 8 * i, 17, 39 - 8 * i), KOTAK)
+    return [], [], lines
+
+
+# The books whose eclipses are worked on the taqribi skeleton: their sheets share its layout.
+KERANGKA_GERHANA = ["SN", "FR", "IDB1", "TZ", "FK"]
+
+
+def validation_ephemeris():
+    """The fifty results of the Ephemeris reckoning, steps 1 to 50 of its formula sheet, stand in
+    rows 56 to 105 of its sheet, the value in column 5."""
+    return [rentang(56 + i, 5).split(":")[0] for i in range(50)]
+
+
 PERIKSA = "--verify" in sys.argv[1:]
 USANG = []
 
@@ -174,11 +249,18 @@ def main():
         "NA": tahqiqi(29),
         "ER": ephemeris(),
     }
+    for x in KERANGKA_GERHANA:
+        sheets[x + "GB"] = khusuf()
+        sheets[x + "GM"] = kusuf()
+    sheets["TdlGM"] = tadil_kusuf()
     kode = list(sheets)
     tulis("MergenExcel.csv", [f"Mergn{x}" for x in kode], [s[0] for s in sheets.values()])
     tulis("ClearTxtMargen.csv", ["ClearTxtKWI" if x == "KW1" else f"ClearTxt{x}" for x in kode],
           [s[1] for s in sheets.values()])
     tulis("Lines.csv", [f"Lines_{x}" for x in kode], [s[2] for s in sheets.values()])
+    # One column a book of the formula family, named as the prefix of its formula columns.
+    tips = {"ER": validation_ephemeris()}
+    tulis("Validation.csv", list(tips), list(tips.values()))
 
 
 if __name__ == "__main__":

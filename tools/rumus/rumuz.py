@@ -4,6 +4,13 @@ reckoning and three columns a book X: XNama (the quantity, in Indonesian), XRumu
 in symbols), XVar (the variable list: segments "left,k|" where k is the index of the run's
 result shown as `left = value`; a letter before k takes the run's second array).
 
+The books of mean motions and equations (BM, NA) number their first array from 1: element k is
+the hilal's value [k - 1], so that the rows their sheets show in whole degrees (the true sun and
+moon, the right ascensions, the argument of latitude) keep the numbers the books give them.
+Their second array holds the constants and the steps to the true sun and moon (SEBELUM_HILAL).
+A fixed row (the right ascension by its quadrant) takes its symbols from the program, so its
+XRumuz stays empty; A and B of those lines are named in its variable list.
+
 A book joins the table by adding its list below; shorter lists leave their columns empty in
 the later rows.
 
@@ -68,7 +75,94 @@ EPHEMERIS = [
     ("Kemiringan hilal", "Q = tan⁻¹(PH / h)", "Q,49|"),
 ]
 
-KITAB = {"ER": EPHEMERIS}
+# The second array of BM and NA, x0 to x13: the obliquity, the moon's greatest latitude, the
+# depression of the horizon (NA), then the true sun and moon as the reckoning built them.
+SEBELUM_HILAL = ["ε", "i", "d", "Wasath ☉", "Ta'dil ☉", "Wasath ☽", "k₁", "k₂", "k₃", "k₄", "k₅",
+                 "'Uqdah", "Ta'dil 'uqdah", "☽'"]
+
+# The true sun and moon, alike in both books.
+SYAMS = ("Bujur Matahari hakiki", "☉ = Wasath ☉ + Ta'dil ☉", "Wasath ☉,x3|Ta'dil ☉,x4|☉,1|")
+QOMAR = ("Bujur Bulan hakiki (koreksi tahunan k₁, evection k₂, markaz k₃, variasi k₄, reduksi k₅)",
+         "☽ = Wasath ☽ + k₁ + k₂ + k₃ + k₄ + k₅",
+         "Wasath ☽,x5|k₁,x6|k₂,x7|k₃,x8|k₄,x9|k₅,x10|☽,{}|")
+HISHSHOH = ("Hishshoh al-'Ardl (jarak Bulan dari 'uqdah)", "H = 'Uqdah + Ta'dil 'uqdah + ☽'  (☽' = ☽ sebelum reduksi)",
+            "'Uqdah,x11|Ta'dil 'uqdah,x12|☽',x13|H,{}|")
+
+
+def qomar(k):
+    return QOMAR[:2] + (QOMAR[2].format(k),)
+
+
+def hishshoh(k):
+    return HISHSHOH[:2] + (HISHSHOH[2].format(k),)
+
+
+# Badi'atu al-Mitsal: its hilal [0] to [31] as elements 1 to 32; rows 5 and 15 are fixed.
+BADIATUL_MITSAL = [
+    SYAMS,
+    ("Deklinasi Matahari", "δ☉ = sin⁻¹(sin ε × sin ☉)", "ε,x0|δ☉,2|"),
+    ("Ta'dil al-nahar Matahari", "n☉ = sin⁻¹(tan φ × tan δ☉)", "φ,3|n☉,4|"),
+    ("Setengah busur siang Matahari", "½QN☉ = n☉ + 90°", "½QN☉,5|"),
+    ("Mathla' Matahari dari awal Jadi (α☉), B = | sin⁻¹(cos ☉ / cos δ☉) |", "", "A,1|B,6|α☉,7|"),
+    ("Mathla' ghurub Matahari", "MG☉ = α☉ + ½QN☉", "MG☉,8|"),
+    qomar(9),
+    ("Deklinasi kedua titik Bulan di ekliptika", "δ₂ = tan⁻¹(tan ε × sin ☽)", "δ₂,10|"),
+    hishshoh(11),
+    ("Lintang Bulan ('Ardl al-Qomar)", "β = sin⁻¹(sin i × sin H)", "i,x1|β,12|"),
+    ("Jumlah lintang dan deklinasi kedua", "β + δ₂", "β + δ₂,13|"),
+    ("Deklinasi Bulan", "δ☽ = sin⁻¹(sin(β + δ₂) × cos ε / cos δ₂)", "δ☽,14|"),
+    ("Ta'dil al-nahar Bulan", "n☽ = sin⁻¹(tan φ × tan δ☽)", "n☽,15|"),
+    ("Setengah busur siang Bulan", "½QN☽ = n☽ + 90°", "½QN☽,16|"),
+    ("Mathla' Bulan dari awal Jadi (α☽), δ₁ = sin⁻¹(sin ε × sin ☽), B = | sin⁻¹(cos ☽ / cos δ₁) |", "",
+     "δ₁,17|A,9|B,18|α☽,19|"),
+    ("Mathla' ghurub Bulan", "MG☽ = α☽ + ½QN☽", "MG☽,20|"),
+    ("Busur Bulan di atas ufuk saat Matahari terbenam", "Bu'd = MG☽ − MG☉", "MG☉,21|Bu'd,22|"),
+    ("Lama hilal di atas ufuk (jam)", "Mukts = Bu'd / 15", "Mukts,23|"),
+    ("Sudut waktu Bulan", "t☽ = ½QN☽ − Bu'd", "t☽,24|"),
+    ("Tinggi hilal", "h = sin⁻¹(sin φ × sin δ☽) + sin⁻¹(cos φ × cos δ☽ × cos t☽)", "h,25|"),
+    ("Azimut terbenam Matahari dari titik barat", "A☉ = sin⁻¹(sin δ☉ / cos φ)", "A☉,26|"),
+    ("Azimut terbenam Bulan dari titik barat", "A☽ = sin⁻¹(sin δ☽ / cos φ)", "A☽,27|"),
+    ("Selisih azimut terbenam", "A☉ − A☽", "A☉ − A☽,28|"),
+    ("Azimut hilal dari titik barat", "Z = ± cos⁻¹(sin t☽ × cos δ☽ / cos h), negatif bila di selatan", "Z,29|"),
+    ("Jumlah azimut hilal dan Matahari", "Z + A☉", "Z + A☉,30|"),
+    ("Posisi hilal dari Matahari", "PH = A☉ − Z", "PH,31|"),
+    ("Nurul hilal (jari)", "Nur = √(h² + PH²) / 15", "Nur,32|"),
+]
+
+# Nuru al-Anwar: its hilal [0] to [28] as elements 1 to 29; rows 4 and 14 are fixed. Its
+# setting arcs take the depression of the horizon d.
+NURUL_ANWAR = [
+    SYAMS,
+    ("Deklinasi Matahari", "δ☉ = sin⁻¹(sin ε × sin ☉)", "ε,x0|δ☉,2|"),
+    ("Setengah busur siang Matahari sampai terbenam", "½QN☉ = cos⁻¹(−tan φ × tan δ☉ − sin d / cos φ / cos δ☉)",
+     "φ,3|d,x2|½QN☉,4|"),
+    ("Mathla' Matahari dari awal Jadi (α☉), B = | sin⁻¹(cos ☉ / cos δ☉) |", "", "A,1|B,5|α☉,6|"),
+    ("Mathla' ghurub Matahari", "MG☉ = α☉ + ½QN☉", "MG☉,7|"),
+    qomar(8),
+    ("Deklinasi kedua titik Bulan di ekliptika", "δ₂ = tan⁻¹(tan ε × sin ☽)", "δ₂,9|"),
+    hishshoh(10),
+    ("Lintang Bulan ('Ardl al-Qomar)", "β = sin⁻¹(sin i × sin H)", "i,x1|β,11|"),
+    ("Jumlah lintang dan deklinasi kedua", "β + δ₂", "β + δ₂,12|"),
+    ("Deklinasi Bulan", "δ☽ = sin⁻¹(sin(β + δ₂) × cos ε / cos δ₂)", "δ☽,13|"),
+    ("Setengah busur siang Bulan sampai terbenam", "½QN☽ = cos⁻¹(−tan φ × tan δ☽ − sin d / cos φ / cos δ☽)",
+     "½QN☽,14|"),
+    ("Deklinasi titik Bulan di ekliptika dan rata-ratanya", "δ₁ = sin⁻¹(sin ε × sin ☽);  δ̄ = (δ₁ + δ☽) / 2",
+     "δ₁,15|δ̄,16|"),
+    ("Mathla' Bulan dari awal Jadi (α☽), B = | sin⁻¹(cos ☽ / cos δ̄) |, dengan kebalikannya bila nisbah itu 1 atau lebih",
+     "", "A,8|B,17|α☽,18|"),
+    ("Mathla' ghurub Bulan", "MG☽ = α☽ + ½QN☽", "MG☽,19|"),
+    ("Busur Bulan di atas ufuk saat Matahari terbenam", "Bu'd = MG☽ − MG☉", "MG☉,20|Bu'd,21|"),
+    ("Sudut waktu Bulan", "t☽ = ½QN☽ − Bu'd", "t☽,22|"),
+    ("Tinggi hilal", "h = sin⁻¹(sin φ × sin δ☽ + cos φ × cos δ☽ × cos t☽)", "h,23|"),
+    ("Lama hilal di atas ufuk (jam)", "Mukts = ((h + Bu'd) / 2) / 15", "Mukts,24|"),
+    ("Azimut terbenam Matahari dari titik barat", "A☉ = sin⁻¹(sin δ☉ / cos φ)", "A☉,25|"),
+    ("Azimut hilal dari titik barat", "Z = cos⁻¹(sin t☽ × cos δ☽ / cos h)", "Z,26|"),
+    ("Posisi hilal dari Matahari", "PH = |A☉| − |Z|", "PH,27|"),
+    ("Jarak bujur Bulan dari Matahari (elongasi)", "E = ☽ − ☉", "E,28|"),
+    ("Nurul hilal (jari)", "Nur = E / 15 + β / 60", "Nur,29|"),
+]
+
+KITAB = {"ER": EPHEMERIS, "BM": BADIATUL_MITSAL, "NA": NURUL_ANWAR}
 
 PERIKSA = "--verify" in sys.argv[1:]
 KELUAR = os.path.join(os.path.dirname(os.path.abspath(__file__)), "..", "..", "data", "TQQRumuz.csv")
@@ -97,5 +191,5 @@ def main():
 
 
 if __name__ == "__main__":
-    assert len(EPHEMERIS) == 50
+    assert len(EPHEMERIS) == 50 and len(BADIATUL_MITSAL) == 27 and len(NURUL_ANWAR) == 24
     sys.exit(main())

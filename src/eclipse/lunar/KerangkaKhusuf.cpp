@@ -216,10 +216,7 @@ void KerangkaKhusuf::KesimpulanKhusuf(HasilHitung& h) {
     std::string gurub, terbit;
     ks.WaktuGurub(Nilai(BurujMatahari(tanggal).value_or("")), gurub, terbit);
     b.push_back(s.labelKe(12) + gurub);
-    const Tempat& t = s.tempat;
-    b.push_back(s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
-                                                     static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
-                                                     t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur))));
+    b.push_back(s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat));
 }
 
 void KerangkaKhusuf::IsiTabelKhusuf(ClsFlexGrid& g) {

@@ -268,11 +268,7 @@ void KerangkaKusuf::KesimpulanKusuf(HasilHitung& h) {
                     s.labelKe(23) + (total ? lama(KfFaseTotal(4)) : "-"),
                     s.labelKe(24) + r.besar,
                     s.labelKe(25) + ks.WarnaGerhanaM(ukuran)};
-    const Tempat& t = s.tempat;
-    h.kesimpulan.push_back(s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
-                                                                static_cast<int>(ValAngka(t.tandaLintang)),
-                                                                t.bujurDerajat, t.bujurMenit,
-                                                                static_cast<int>(ValAngka(t.tandaBujur))));
+    h.kesimpulan.push_back(s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat));
 }
 
 void KerangkaKusuf::IsiTabelKusuf(ClsFlexGrid& g) {

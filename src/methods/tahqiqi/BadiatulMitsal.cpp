@@ -4,7 +4,9 @@
 
 #include "core/FungsHisab.h"
 #include "core/Sesi.h"
+#include "core/Koneksi.h"
 #include "methods/tahqiqi/HilalTahqiqi.h"
+#include "methods/tahqiqi/RumusTahqiqi.h"
 
 namespace falak {
 
@@ -31,6 +33,8 @@ constexpr double kMailQomar = 5 + 2 / 60.0;  // the moon's greatest latitude
 BadiatulMitsal::BadiatulMitsal(Konteks k) : KerangkaTahqiqi(k, kBadiatulMitsal) {}
 
 Nilai BadiatulMitsal::sabaq() { return Nilai("00 00 30 28 00 1"); }
+
+LembarRumus BadiatulMitsal::Rumus() { return RumusTahqiqi(*this, 31, k_.koneksi.TQQRumuz, {kMail, kMailQomar, {}}); }
 
 void BadiatulMitsal::HitungHilal() {
     using namespace hilal;

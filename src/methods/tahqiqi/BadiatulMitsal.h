@@ -17,6 +17,7 @@ public:
     double tinggiHilal() const override { return Hasil[24]; }
     double muktsHilal() const override { return Hasil[22]; }
     double nurHilal() const override { return Hasil[31]; }
+    LembarRumus Rumus() override;
 
 protected:
     Nilai sabaq() override;

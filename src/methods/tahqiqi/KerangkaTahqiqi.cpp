@@ -406,6 +406,7 @@ HasilHitung KerangkaTahqiqi::Hitung(const Permintaan& p) {
         ClsFlexGrid g(&h.lembarBaru(""));
         isiTabel(g);
         h.baris = baris();
+        h.rumus = Rumus();
     }
     maju.penuh();
     return h;

@@ -91,6 +91,8 @@ public:
     virtual double tinggiHilal() const = 0;
     virtual double muktsHilal() const = 0;
     virtual double nurHilal() const = 0;
+    // The formula sheet of the run, from the values its worked table shows.
+    virtual LembarRumus Rumus() = 0;
     // The hilal's values as the sheet shows them (a run without a sheet leaves them).
     void tulisHasilTeks();
 

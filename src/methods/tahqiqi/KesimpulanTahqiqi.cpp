@@ -43,13 +43,8 @@ void TulisKesimpulanTahqiqi(Konteks& k, const BahanKesimpulanTahqiqi& b, std::ve
     std::string gurub, terbit;
     ks.WaktuGurub(Nilai(BurujMatahari(hari).value_or("")), gurub, terbit);
     baris[10] = s.labelKe(12) + gurub;
-    const TitikMarkaz& m = b.markaz;
-    baris[11] = s.labelKe(14) + ClsKesimpulan::baris(m.nama ? m.nama : "", m.lintangDerajat, m.lintangMenit,
-                                                      m.tandaLintang, m.bujurDerajat, m.bujurMenit, m.tandaBujur);
-    const Tempat& t = s.tempat;
-    baris[12] = s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
-                                                      static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
-                                                      t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur)));
+    baris[11] = s.labelKe(14) + ClsKesimpulan::barisMarkaz(b.markaz);
+    baris[12] = s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat);
     ringkasan = {hariNama, malam, hariZona, jam, tinggi, b.hari.awal};
 }
 

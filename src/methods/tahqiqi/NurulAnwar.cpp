@@ -4,7 +4,9 @@
 
 #include "core/FungsHisab.h"
 #include "methods/Taadil.h"
+#include "core/Koneksi.h"
 #include "methods/tahqiqi/HilalTahqiqi.h"
+#include "methods/tahqiqi/RumusTahqiqi.h"
 
 namespace falak {
 
@@ -30,6 +32,8 @@ constexpr double kMailQomar = 5;                        // the moon's greatest l
 }  // namespace
 
 NurulAnwar::NurulAnwar(Konteks k) : KerangkaTahqiqi(k, kNurulAnwar) {}
+
+LembarRumus NurulAnwar::Rumus() { return RumusTahqiqi(*this, 41, k_.koneksi.TQQRumuz, {kMail, kMailQomar, kInkhifadl}); }
 
 // The moon's hourly gain on the sun at sunset: its own motion by the corrected anomaly, the
 // evection's and the variation's shares, less the sun's motion by its anomaly.

@@ -18,6 +18,7 @@ public:
     double tinggiHilal() const override { return Hasil[22]; }
     double muktsHilal() const override { return Hasil[23]; }
     double nurHilal() const override { return Hasil[28]; }
+    LembarRumus Rumus() override;
 
     // The worked look-ups of the hourly motions: codes 18, 19, 20.
     std::array<Baris<5>, 3> Sabaq;

@@ -54,13 +54,8 @@ void TulisKesimpulanTaqribi(Konteks& k, const BahanKesimpulan& b, std::vector<st
     std::string gurub, terbit;
     ks.WaktuGurub(Nilai(BurujMatahari(b.gurubHariIjtima ? b.hariIjtima : b.awalBulan).value_or("")), gurub, terbit);
     baris[10] = s.labelKe(12) + gurub;
-    const TitikMarkaz& m = b.markaz;
-    baris[11] = s.labelKe(14) + ClsKesimpulan::baris(m.nama ? m.nama : "", m.lintangDerajat, m.lintangMenit,
-                                                      m.tandaLintang, m.bujurDerajat, m.bujurMenit, m.tandaBujur);
-    const Tempat& t = s.tempat;
-    baris[12] = s.labelKe(15) + ClsKesimpulan::baris(t.nama, t.lintangDerajat, t.lintangMenit,
-                                                      static_cast<int>(ValAngka(t.tandaLintang)), t.bujurDerajat,
-                                                      t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur)));
+    baris[11] = s.labelKe(14) + ClsKesimpulan::barisMarkaz(b.markaz);
+    baris[12] = s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat);
     // The zone's clock may pass midnight either way from the local apparent one.
     const Waktu zona = ks.keZona(AmbilTingkat(hariSipil, MedanBulan), AmbilTingkat(hariSipil, MedanTanggal),
                                  Waktu::dari(jamJam, ValAngka(menit), 0));

@@ -7,18 +7,12 @@
 #include <string>
 #include <vector>
 
+#include "conclusions/Kesimpulan.h"
 #include "core/Nilai.h"
 #include "methods/Konteks.h"
 #include "methods/Modul.h"
 
 namespace falak {
-
-// A place as a conclusion line names it (flags: non-zero is north, east).
-struct TitikMarkaz {
-    const char* nama;
-    int lintangDerajat, lintangMenit, tandaLintang;
-    int bujurDerajat, bujurMenit, tandaBujur;
-};
 
 // What a treatise hands its conclusion writer.
 struct BahanKesimpulan {
