@@ -142,6 +142,31 @@ TEST_F(SesiER, AZoneOfSixTakesItsOwnMeridian) {
     EXPECT_EQ(er->ERHasil[7], 6);
 }
 
+// A month without its sheet reckons only the hours it reads; it must land on the same best
+// hour and the same results, to the last bit, as the whole table does, whatever the page the
+// table is turned to, the place, and the hours taken as universal time. In 1000 H the
+// arithmetic calendar runs far enough from the sky that some tables never reach the ijtima'
+// and the best hour is the last one.
+TEST_F(SesiER, WithoutTheSheetTheSameReckoningAsTheWholeTable) {
+    for (const char* tempat : {"Jakarta", "Banda Aceh"})
+        for (const bool deltaT : {false, true}) {
+            ws->pilihTempat(tempat);
+            ws->sesi.deltaT = deltaT;
+            for (int16_t bulan = 1; bulan <= 12; ++bulan)
+                for (const int32_t tahun : {1000, 1442, 1443, 1444}) {
+                    const HasilHitung penuh = er->HitungIjtimaER(tahun, bulan, true);
+                    const auto hasil = er->ERHasil;
+                    const int terbaik = er->ERJamTerbaik, geser = er->ERGeser;
+                    const HasilHitung hemat = er->HitungIjtimaER(tahun, bulan, false);
+                    SCOPED_TRACE(std::string(tempat) + " " + std::to_string(tahun) + "/" + std::to_string(bulan));
+                    EXPECT_EQ(er->ERJamTerbaik, terbaik);
+                    EXPECT_EQ(er->ERGeser, geser);
+                    for (size_t i = 0; i < hasil.size(); ++i) EXPECT_EQ(er->ERHasil[i], hasil[i]) << "[" << i << "]";
+                    EXPECT_EQ(hemat.kesimpulan, penuh.kesimpulan);
+                }
+        }
+}
+
 // Refraction read from the table: on a row it is that row; between rows, one degree of
 // interpolation towards the next lower row; at the horizon the row 0.
 TEST_F(SesiER, RefractionFromItsTable) {

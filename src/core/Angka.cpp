@@ -1,5 +1,6 @@
 #include "core/Angka.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
@@ -101,6 +102,15 @@ std::string cetak(double x, int n, int batasEksponen) {
 }  // namespace
 
 double ValAngka(std::string_view teks) {
+    // Most table cells and fields are a short run of digits: read without the copy. Up to
+    // fifteen digits the whole number is exact either way; "-0" stays a negative zero.
+    const bool minus = !teks.empty() && teks.front() == '-';
+    const std::string_view digit = minus ? teks.substr(1) : teks;
+    if (!digit.empty() && digit.size() <= 15 && std::ranges::all_of(digit, isDigit)) {
+        int64_t v = 0;
+        for (char c : digit) v = v * 10 + (c - '0');
+        return minus ? -static_cast<double>(v) : static_cast<double>(v);
+    }
     std::string bersih;
     bersih.reserve(teks.size());
     for (char c : teks)

@@ -1,5 +1,8 @@
 #include "core/Maghrib.h"
 
+#include <array>
+#include <string>
+
 #include "core/FungsHisab.h"
 
 namespace falak {
@@ -23,10 +26,7 @@ Waktu jamMenit(const Nilai& alamah) {
     return Waktu::dari(jam, menit, 0);
 }
 
-}  // namespace
-
-SaatMatahari WaktuMaghrib(int darojat, int daqiqoh, const Tempat& tempat) {
-    if (darojat * 60 + daqiqoh > 360 * 60) darojat -= 360;
+SaatMatahari hitungMaghrib(int darojat, int daqiqoh, const Tempat& tempat) {
     const Nilai enamPuluh = DlorbuSittin(0, 60, 0, 0, 0, 1, ModusBuruj);
     const Nilai lintang = DlorbuSittin(0, tempat.lintangDerajat, tempat.lintangMenit, 0, 0,
                                        AmbilTanda(Nilai(tempat.tandaLintang)), ModusBuruj);
@@ -56,6 +56,30 @@ SaatMatahari WaktuMaghrib(int darojat, int daqiqoh, const Tempat& tempat) {
     const Nilai terbit = KurangNilai(JenisBusur, TandaIkut, ModusBuruj,
                                      KurangNilai(JenisBusur, TandaIkut, ModusBuruj, enamJam, jamLebih), ihtiyath);
     return {jamMenit(CUmumToAlamah(terbenam, false)), jamMenit(CUmumToAlamah(terbit, false))};
+}
+
+// A batch asks the sunset at one place for the same few hundred longitudes over and over
+// (every book, every month), and the value arithmetic of one costs as much as a book's whole
+// equation of the Sun: the last answer for each minute of longitude is kept, with the
+// latitude it was reckoned for.
+struct MaghribTersimpan {
+    int busur = -1;
+    int16_t derajat = 0, menit = 0;
+    std::string tanda;
+    SaatMatahari saat;
+};
+
+}  // namespace
+
+SaatMatahari WaktuMaghrib(int darojat, int daqiqoh, const Tempat& tempat) {
+    if (darojat * 60 + daqiqoh > 360 * 60) darojat -= 360;
+    thread_local std::array<MaghribTersimpan, 1024> simpanan;
+    const int busur = darojat * 60 + daqiqoh;
+    MaghribTersimpan& m = simpanan[static_cast<size_t>(busur) % simpanan.size()];
+    if (m.busur != busur || m.derajat != tempat.lintangDerajat || m.menit != tempat.lintangMenit ||
+        m.tanda != tempat.tandaLintang)
+        m = {busur, tempat.lintangDerajat, tempat.lintangMenit, tempat.tandaLintang, hitungMaghrib(darojat, daqiqoh, tempat)};
+    return m.saat;
 }
 
 }  // namespace falak

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <limits>
 #include <string_view>
 
 #include "conclusions/Kesimpulan.h"
@@ -406,43 +407,79 @@ std::string TeksSudutER(double x, bool meter) {
 
 Ephemeris::Ephemeris(Konteks k) : k_(k), bumi_(DeretBumi::baca(k.koneksi.ERBumi)) {}
 
-void Ephemeris::isiJam(int y, int m, int d) {
-    const double jd0 = HariJulianER(y, m, d);
-    for (size_t h = 1; h <= 50; ++h) {
-        double jd = jd0 + static_cast<double>(h - 1) / 24;
-        // With delta T the hours are universal time, and the bodies are placed in dynamical time.
-        if (k_.sesi.deltaT) jd += DeltaTHari(jd);
-        const PosisiER p = PosisiPada(bumi_, jd);
-        ERJarak(h) = p.jarak;
-        ERThulHakiki(h) = p.thulHakiki;
-        ERThulSyams(h) = p.thulSyams;
-        ERArdl(h) = p.ardl;
-        ERMail(h) = p.mail;
-        ERAdjSyams(h) = p.adjSyams;
-        ERDekSyams(h) = p.dekSyams;
-        ERSdSyams(h) = p.sdSyams;
-        ERDaqoiq(h) = p.daqoiq;
-        ERThulQomar(h) = p.thulQomar;
-        ERArdlQomar(h) = p.ardlQomar;
-        ERAdjQomar(h) = p.adjQomar;
-        ERDekQomar(h) = p.dekQomar;
-        ERHp(h) = p.hp;
-        ERSdQomar(h) = p.sdQomar;
-        ERSudut(h) = p.sudut;
-        ERFib(h) = p.fib;
-        k_.kemajuan.langkah();
-    }
+void Ephemeris::mulaiTabel(int y, int m, int d, bool semuaJam) {
+    jdAwal_ = HariJulianER(y, m, d);
+    adaJam_.fill(false);
+    if (semuaJam) return;
+    constexpr double kosong = std::numeric_limits<double>::quiet_NaN();
+    for (KolomJam* k : {&ERJarak, &ERThulHakiki, &ERThulSyams, &ERArdl, &ERMail, &ERAdjSyams, &ERDekSyams, &ERSdSyams,
+                        &ERDaqoiq, &ERThulQomar, &ERArdlQomar, &ERAdjQomar, &ERDekQomar, &ERHp, &ERSdQomar, &ERSudut,
+                        &ERFib})
+        std::ranges::fill(k->semua(), kosong);
+}
+
+void Ephemeris::isiJam(size_t h) {
+    double jd = jdAwal_ + static_cast<double>(h - 1) / 24;
+    // With delta T the hours are universal time, and the bodies are placed in dynamical time.
+    if (k_.sesi.deltaT) jd += DeltaTHari(jd);
+    const PosisiER p = PosisiPada(bumi_, jd);
+    ERJarak(h) = p.jarak;
+    ERThulHakiki(h) = p.thulHakiki;
+    ERThulSyams(h) = p.thulSyams;
+    ERArdl(h) = p.ardl;
+    ERMail(h) = p.mail;
+    ERAdjSyams(h) = p.adjSyams;
+    ERDekSyams(h) = p.dekSyams;
+    ERSdSyams(h) = p.sdSyams;
+    ERDaqoiq(h) = p.daqoiq;
+    ERThulQomar(h) = p.thulQomar;
+    ERArdlQomar(h) = p.ardlQomar;
+    ERAdjQomar(h) = p.adjQomar;
+    ERDekQomar(h) = p.dekQomar;
+    ERHp(h) = p.hp;
+    ERSdQomar(h) = p.sdQomar;
+    ERSudut(h) = p.sudut;
+    ERFib(h) = p.fib;
+    adaJam_[h] = true;
+    k_.kemajuan.langkah();
 }
 
 int Ephemeris::EphemerisJam(int y, int m, int d) {
-    isiJam(y, m, d);
+    mulaiTabel(y, m, d, true);
+    for (size_t h = 1; h <= 50; ++h) isiJam(h);
     int terbaik = 1;
     for (size_t h = 2; h < 50; ++h)
         if (std::abs(ERFib(h)) < std::abs(ERFib(static_cast<size_t>(terbaik)))) terbaik = static_cast<int>(h);
     return terbaik;
 }
 
-void Ephemeris::HisabER(int32_t tahun, int16_t bulan) {
+// The best hour without the whole table. Over fifty hours the Moon's lead in longitude and
+// its latitude each run nearly straight, so the elongation, the root of the sum of their
+// squares, falls to one lowest hour and rises after it, and the fraction with it: a walk
+// downhill from a near guess ends on the hour that a look at all of them finds (the first,
+// should two be equal).
+int Ephemeris::jamTerbaikHemat() {
+    const auto unggul = [this](size_t h) {
+        pastikanJam(h);
+        return selisihBusur(ERThulQomar(h), ERThulHakiki(h));
+    };
+    const auto jamKe = [](double x) { return static_cast<size_t>(std::clamp(std::lround(x), 1L, 49L)); };
+    // The guess: where the lead runs out, first at the mean gain of an hour, then by the secant.
+    constexpr size_t tengah = 25;
+    const double a = unggul(tengah);
+    size_t h = jamKe(tengah - a / 0.508);
+    if (h != tengah) {
+        const double b = unggul(h);
+        if (b != a) h = jamKe(static_cast<double>(h) - b * (static_cast<double>(h) - tengah) / (b - a));
+    }
+    for (;;) {
+        if (h > 1 && fibPada(h - 1) <= fibPada(h)) --h;
+        else if (h < 49 && fibPada(h + 1) < fibPada(h)) ++h;
+        else return static_cast<int>(h);
+    }
+}
+
+void Ephemeris::HisabER(int32_t tahun, int16_t bulan, bool semuaJam) {
     tahun_ = tahun;
     bulan_ = bulan;
     // The table opens at 0h GMT of the day before the ijtima' is looked for, the 29th of the
@@ -455,8 +492,14 @@ void Ephemeris::HisabER(int32_t tahun, int16_t bulan) {
         const auto awal = ClsKesimpulan::ConvertToHijri(tahun, bulan, 28 + geser);
         if (!awal) return;
         ERTanggalAwal = *awal;
-        ERJamTerbaik = EphemerisJam(AmbilTingkat(*awal, MedanTahun), AmbilTingkat(*awal, MedanBulan),
-                                    AmbilTingkat(*awal, MedanTanggal));
+        const int y = static_cast<int>(AmbilTingkat(*awal, MedanTahun)), m = static_cast<int>(AmbilTingkat(*awal, MedanBulan)),
+                  d = static_cast<int>(AmbilTingkat(*awal, MedanTanggal));
+        if (semuaJam) {
+            ERJamTerbaik = EphemerisJam(y, m, d);
+        } else {
+            mulaiTabel(y, m, d, false);
+            ERJamTerbaik = jamTerbaikHemat();
+        }
         IjtimaER();
         if (jamIjtimaMentah_ <= 24) --geser;
         else if (jamIjtimaMentah_ > 48 || ERJamTerbaik >= 49) ++geser;
@@ -469,6 +512,7 @@ void Ephemeris::IjtimaER() {
     auto& R = ERHasil;
     const size_t s = static_cast<size_t>(ERJamTerbaik);
     R[0] = s > 25 ? static_cast<double>(s) - 25 : static_cast<double>(s);
+    pastikanJam(s + 1);
     R[1] = ERThulHakiki(s);
     R[2] = ERThulHakiki(s + 1);
     R[3] = std::abs(selisihBusur(R[1], R[2]));
@@ -486,9 +530,11 @@ void Ephemeris::IjtimaER() {
     }
 }
 
-double Ephemeris::BacaJamER(const KolomJam& kolom, double x) const {
+double Ephemeris::BacaJamER(const KolomJam& kolom, double x) {
     const double bulat = std::floor(x);
     const int i = std::clamp(static_cast<int>(bulat) + 25, 1, 49);
+    pastikanJam(static_cast<size_t>(i));
+    pastikanJam(static_cast<size_t>(i) + 1);
     const double v = kolom(static_cast<size_t>(i));
     const double beda = v - kolom(static_cast<size_t>(i) + 1);
     if (std::abs(beda) <= 180) return v - (x - bulat) * beda;
@@ -546,6 +592,7 @@ void Ephemeris::GhurubER() {
     R[9] = BulatGenap(12 + saat.terbenam.jam() + saat.terbenam.menit() / 60.0);
     R[10] = R[9] - R[7];
     const size_t i = static_cast<size_t>(std::clamp(ERGeser + static_cast<int>(R[10]), 1, 50));
+    pastikanJam(i);
     R[11] = ERSdSyams(i);
     R[12] = 34.5 / 60;
     R[13] = std::sqrt(std::max(k_.sesi.tempat.tinggi, 0.0)) * 1.76 / 60;
@@ -680,7 +727,7 @@ HasilHitung Ephemeris::HitungIjtimaER(int32_t tahun, int16_t bulan, bool lembar)
     Kemajuan& maju = k_.kemajuan;
     HasilHitung h;
     maju.mulai(kLangkah);
-    HisabER(tahun, bulan);
+    HisabER(tahun, bulan, lembar);
     maju.langkah();
     GhurubER();
     maju.langkah();

@@ -11,9 +11,12 @@
 //
 // The hourly table runs from 0h GMT of the day before the local day of the ijtima' (hour 1)
 // to 1h of the day after it (hour 50); the hilal is reckoned at the sunset of the second day.
+// A run that paints no sheet fills only the hours its reckoning reads: those around the
+// smallest fraction and those of the sunset; the others are left not-a-number.
 #pragma once
 
 #include <array>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -72,7 +75,9 @@ public:
 
     HasilHitung HitungIjtimaER(int32_t tahun, int16_t bulan, bool lembar = true);
     // The stages, in order; each reads what the one before it wrote.
-    void HisabER(int32_t tahun, int16_t bulan);
+    // semuaJam: the whole hourly table, as the sheet shows it; else only the hours needed.
+    void HisabER(int32_t tahun, int16_t bulan, bool semuaJam = true);
+    // The whole table of a day, and its best hour.
     int EphemerisJam(int y, int m, int d);
     void IjtimaER();
     void GhurubER();
@@ -84,7 +89,7 @@ public:
 
     // Interpolation at a time x in hours of the second day.
     enum class KelompokER { Matahari = 1, Hilal = 2 };
-    double BacaJamER(const KolomJam& kolom, double x) const;
+    double BacaJamER(const KolomJam& kolom, double x);
     double RefraksiER(double tinggi);
 
     // The hourly table.
@@ -99,13 +104,25 @@ public:
     std::vector<BarisTercatat> baris() const;
 
 private:
-    void isiJam(int y, int m, int d);
+    void mulaiTabel(int y, int m, int d, bool semuaJam);
+    void isiJam(size_t h);
+    // Fills hour h (1 to 50) of the table when the run has not yet reckoned it.
+    void pastikanJam(size_t h) {
+        if (!adaJam_[h]) isiJam(h);
+    }
+    double fibPada(size_t h) {
+        pastikanJam(h);
+        return std::abs(ERFib(h));
+    }
+    int jamTerbaikHemat();
     // The place's latitude, south negative; the hours from its meridian to its zone's clock.
     double lintang() const;
     double koreksiBujur() const;
     Konteks k_;
     double jamIjtimaMentah_ = 0;  // the ijtima' in hours of the zone from 0h of the first day
     DeretBumi bumi_;
+    double jdAwal_ = 0;                // Julian day of hour 1
+    std::array<bool, 51> adaJam_{};    // [h]: hour h of this table is reckoned
     int32_t tahun_ = 0;
     int16_t bulan_ = 0;
 };
