@@ -163,6 +163,25 @@ TEST_F(SesiTahqiqi, WholeMonthsAgainstTheSky) {
     EXPECT_NE(n[3].find("01.2"), std::string::npos) << n[3];
 }
 
+TEST_F(SesiTahqiqi, AMoonJustPastWhereTheArcsStartAgain) {
+    // The ijtima' of 20 December 2025 (01 UT) leaves the sun short of the head of Capricorn
+    // and the moon some five degrees past it at sunset in Java: the moon's setting arc is a
+    // few degrees more than the sun's, and the hilal stays some twenty minutes.
+    ASSERT_FALSE(ws->mnuProsesIjSub("BM", "1447", 6, "Jombang").pesan);
+    EXPECT_GT(bm->Hasil[21], 2.0);
+    EXPECT_LT(bm->Hasil[21], 9.0);
+    EXPECT_NEAR(bm->Hasil[22], bm->Hasil[21] / 15, 1e-12);
+    ASSERT_FALSE(ws->mnuProsesIjSub("NA", "1447", 6, "Jombang").pesan);
+    EXPECT_GT(na->Hasil[20], 2.0);
+    EXPECT_LT(na->Hasil[20], 9.0);
+    EXPECT_GT(na->Hasil[23], 0.0);
+    // The ijtima' of 20 March 2015 (09.36 UT) came with the sun at 359.4 degrees; at sunset the
+    // moon stood under a degree past the head of Aries, its elongation a fraction of a degree.
+    ASSERT_FALSE(ws->mnuProsesIjSub("NA", "1436", 5, "Jombang").pesan);
+    EXPECT_GT(na->Hasil[27], 0.0);
+    EXPECT_LT(na->Hasil[27], 2.0);
+}
+
 TEST_F(SesiTahqiqi, EveryRunKeepsItsFormulaSheet) {
     auto a = ws->mnuProsesIjSub("BM", "1445", 8, "Jombang");
     auto b = ws->mnuProsesIjSub("BM", "1445", 9, "Jombang");

@@ -277,11 +277,11 @@ def main():
           [s[1] for s in sheets.values()])
     tulis("Lines.csv", [f"Lines_{x}" for x in kode], [s[2] for s in sheets.values()])
     # One column a book of the formula family, named as the prefix of its formula columns.
-    # The Ephemeris's fifty results stand in rows 56 to 105, the value in column 5; the hilal
-    # of the precise books (element k its [k - 1]) from row 15 down, its first field at column
-    # 19 beside the label.
+    # Element k of a formula sheet is the run's result [k - 1]. The Ephemeris's fifty results
+    # stand in rows 56 to 105, the value in column 5; the hilal of the precise books from row
+    # 15 down, its first field at column 19 beside the label.
     tips = {
-        "ER": validation("ER", lambda k: (56 + k, 5)),
+        "ER": validation("ER", lambda k: (55 + k, 5)),
         "BM": validation("BM", lambda k: (14 + k, 19)),
         "NA": validation("NA", lambda k: (14 + k, 19)),
     }

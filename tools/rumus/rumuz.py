@@ -4,10 +4,11 @@ reckoning and three columns a book X: XNama (the quantity, in Indonesian), XRumu
 in symbols), XVar (the variable list: segments "left,k|" where k is the index of the run's
 result shown as `left = value`; a letter before k takes the run's second array).
 
-The books of mean motions and equations (BM, NA) number their first array from 1: element k is
-the hilal's value [k - 1], so that the rows their sheets show in whole degrees (the true sun and
-moon, the right ascensions, the argument of latitude) keep the numbers the books give them.
-Their second array holds the constants and the steps to the true sun and moon (SEBELUM_HILAL).
+Every book numbers its first array from 1: element k is the run's result [k - 1], so that the
+elements its sheet shows in whole degrees (the longitudes, the right ascensions, the argument of
+latitude) keep the numbers the books give them. The books of mean motions and equations (BM,
+NA) hold their hilal there; their second array holds the constants and the steps to the true
+sun and moon (SEBELUM_HILAL).
 A fixed row (the right ascension by its quadrant) takes its symbols from the program, so its
 XRumuz stays empty; A and B of those lines are named in its variable list.
 
@@ -21,58 +22,58 @@ import io
 import os
 import sys
 
-# The modern reckoning: its fifty results [0] to [49] in order.
+# The modern reckoning: its fifty results [0] to [49] in order, elements 1 to 50.
 EPHEMERIS = [
-    ("Jam FIB terkecil (GMT)", "s = jam dengan k terkecil; [0] = s, dikurangi 25 bila s > 25", "s,0|"),
-    ("Bujur Matahari (ELM) jam s", "ELM₁ = λ☉ geosentris pada jam s", "ELM₁,1|"),
-    ("Bujur Matahari (ELM) jam s+1", "ELM₂ = λ☉ geosentris pada jam s + 1", "ELM₂,2|"),
-    ("Gerak Matahari per jam (B¹)", "B¹ = |ELM₁ − ELM₂|", "B¹,3|"),
-    ("Bujur Bulan (ALB) jam s", "ALB₁ = λ☽ tampak pada jam s", "ALB₁,4|"),
-    ("Bujur Bulan (ALB) jam s+1", "ALB₂ = λ☽ tampak pada jam s + 1", "ALB₂,5|"),
-    ("Gerak Bulan per jam (B²)", "B² = |ALB₁ − ALB₂|", "B²,6|"),
-    ("Zona waktu", "Z = zona waktu daerah", "Z,7|"),
-    ("Ijtima'", "Ijt = (ELM₁ − ALB₁) / (B² − B¹) + (s − 1) + Z", "Ijt,8|"),
-    ("Perkiraan terbenam Matahari", "G = jam Maghrib dibulatkan", "G,9|"),
-    ("Perkiraan terbenam (GMT)", "G' = G − Z", "G',10|"),
-    ("Semi diameter Matahari", "SD☉ = 959.63″ / R, pada jam G'", "SD☉,11|"),
-    ("Refraksi di ufuk", "Ref = 34.5′", "Ref,12|"),
-    ("Kerendahan ufuk (Dip)", "Dip = 1.76′ × √tinggi tempat", "Dip,13|"),
-    ("Tinggi Matahari saat terbenam", "h☉ = −(SD☉ + Ref + Dip)", "h☉,14|"),
-    ("Deklinasi Matahari", "δ☉ pada jam G'", "δ☉,15|"),
-    ("Sudut waktu Matahari", "t☉ = cos⁻¹(−tan φ tan δ☉ + sin h☉ / cos φ / cos δ☉)", "t☉,16|"),
-    ("Perata waktu (Equation of Time)", "e pada jam G'", "e,17|"),
-    ("Koreksi waktu daerah (KWD)", "KWD = (λ zona − λ tempat) / 15", "KWD,18|"),
-    ("Jam tengah hari", "12", "12,19|"),
-    ("Terbenam Matahari (taksiran pertama)", "Ghurub = 12 − e + t☉ / 15 + KWD", "Ghurub,20|"),
-    ("Terbenam (GMT)", "Ghurub' = Ghurub − Z", "Ghurub',21|"),
-    ("Semi diameter Matahari (interpolasi)", "SD☉ pada jam Ghurub'", "SD☉,22|"),
-    ("Tinggi Matahari saat terbenam", "h☉ = −(SD☉ + Ref + Dip)", "h☉,23|"),
-    ("Deklinasi Matahari (interpolasi)", "δ☉ pada jam Ghurub'", "δ☉,24|"),
-    ("Sudut waktu Matahari", "t☉ = cos⁻¹(−tan φ tan δ☉ + sin h☉ / cos φ / cos δ☉)", "t☉,25|"),
-    ("Perata waktu (interpolasi)", "e pada jam Ghurub'", "e,26|"),
-    ("Koreksi waktu daerah (KWD)", "KWD = (λ zona − λ tempat) / 15", "KWD,27|"),
-    ("Jam tengah hari", "12", "12,28|"),
-    ("Terbenam Matahari", "Ghurub = 12 − e + t☉ / 15 + KWD", "Ghurub,29|"),
-    ("Terbenam (GMT)", "Ghurub' = Ghurub − Z", "Ghurub',30|"),
-    ("Asensio rekta Matahari", "α☉ pada jam Ghurub'", "α☉,31|"),
-    ("Asensio rekta Bulan", "α☽ pada jam Ghurub'", "α☽,32|"),
-    ("Sudut waktu Bulan", "t☽ = α☉ − α☽ + t☉", "t☽,33|"),
-    ("Deklinasi Bulan", "δ☽ pada jam Ghurub'", "δ☽,34|"),
-    ("Tinggi hakiki Bulan", "h☽ = sin⁻¹(sin φ sin δ☽ + cos φ cos δ☽ cos t☽)", "h☽,35|"),
-    ("Horizontal parallax Bulan", "HP pada jam Ghurub'", "HP,36|"),
-    ("Parallax", "Par = cos h☽ × HP", "Par,37|"),
-    ("Semi diameter Bulan", "SD☽ pada jam Ghurub'", "SD☽,38|"),
-    ("Tinggi piringan atas Bulan", "h' = h☽ − Par + SD☽", "h',39|"),
-    ("Refraksi", "Ref = dari tabel Refraksi pada h☽", "Ref,40|"),
-    ("Tinggi mar'i hilal", "h = Ref + h' + Dip", "h,41|"),
-    ("Lama hilal di atas ufuk", "Mukts = h / 15", "Mukts,42|"),
-    ("Terbenam Bulan", "Ghurub☽ = Mukts + Ghurub", "Ghurub☽,43|"),
-    ("Azimut Matahari", "A☉ = 90 − tan⁻¹(1 / (tan δ☉ cos φ / sin t☉ − sin φ / tan t☉))", "A☉,44|"),
-    ("Azimut Bulan", "A☽ = 90 − tan⁻¹(1 / (tan δ☽ cos φ / sin t☽ − sin φ / tan t☽))", "A☽,45|"),
-    ("Posisi hilal dari Matahari", "PH = A☽ − A☉", "PH,46|"),
-    ("Fraksi iluminasi Bulan", "k pada jam Ghurub'", "k,47|"),
-    ("Nurul hilal", "Nur = √(h² + PH²) / 15", "Nur,48|"),
-    ("Kemiringan hilal", "Q = tan⁻¹(PH / h)", "Q,49|"),
+    ("Jam FIB terkecil (GMT)", "s = jam dengan k terkecil; [0] = s, dikurangi 25 bila s > 25", "s,1|"),
+    ("Bujur Matahari (ELM) jam s", "ELM₁ = λ☉ geosentris pada jam s", "ELM₁,2|"),
+    ("Bujur Matahari (ELM) jam s+1", "ELM₂ = λ☉ geosentris pada jam s + 1", "ELM₂,3|"),
+    ("Gerak Matahari per jam (B¹)", "B¹ = |ELM₁ − ELM₂|", "B¹,4|"),
+    ("Bujur Bulan (ALB) jam s", "ALB₁ = λ☽ tampak pada jam s", "ALB₁,5|"),
+    ("Bujur Bulan (ALB) jam s+1", "ALB₂ = λ☽ tampak pada jam s + 1", "ALB₂,6|"),
+    ("Gerak Bulan per jam (B²)", "B² = |ALB₁ − ALB₂|", "B²,7|"),
+    ("Zona waktu", "Z = zona waktu daerah", "Z,8|"),
+    ("Ijtima'", "Ijt = (ELM₁ − ALB₁) / (B² − B¹) + (s − 1) + Z", "Ijt,9|"),
+    ("Perkiraan terbenam Matahari", "G = jam Maghrib dibulatkan", "G,10|"),
+    ("Perkiraan terbenam (GMT)", "G' = G − Z", "G',11|"),
+    ("Semi diameter Matahari", "SD☉ = 959.63″ / R, pada jam G'", "SD☉,12|"),
+    ("Refraksi di ufuk", "Ref = 34.5′", "Ref,13|"),
+    ("Kerendahan ufuk (Dip)", "Dip = 1.76′ × √tinggi tempat", "Dip,14|"),
+    ("Tinggi Matahari saat terbenam", "h☉ = −(SD☉ + Ref + Dip)", "h☉,15|"),
+    ("Deklinasi Matahari", "δ☉ pada jam G'", "δ☉,16|"),
+    ("Sudut waktu Matahari", "t☉ = cos⁻¹(−tan φ tan δ☉ + sin h☉ / cos φ / cos δ☉)", "t☉,17|"),
+    ("Perata waktu (Equation of Time)", "e pada jam G'", "e,18|"),
+    ("Koreksi waktu daerah (KWD)", "KWD = (λ zona − λ tempat) / 15", "KWD,19|"),
+    ("Jam tengah hari", "12", "12,20|"),
+    ("Terbenam Matahari (taksiran pertama)", "Ghurub = 12 − e + t☉ / 15 + KWD", "Ghurub,21|"),
+    ("Terbenam (GMT)", "Ghurub' = Ghurub − Z", "Ghurub',22|"),
+    ("Semi diameter Matahari (interpolasi)", "SD☉ pada jam Ghurub'", "SD☉,23|"),
+    ("Tinggi Matahari saat terbenam", "h☉ = −(SD☉ + Ref + Dip)", "h☉,24|"),
+    ("Deklinasi Matahari (interpolasi)", "δ☉ pada jam Ghurub'", "δ☉,25|"),
+    ("Sudut waktu Matahari", "t☉ = cos⁻¹(−tan φ tan δ☉ + sin h☉ / cos φ / cos δ☉)", "t☉,26|"),
+    ("Perata waktu (interpolasi)", "e pada jam Ghurub'", "e,27|"),
+    ("Koreksi waktu daerah (KWD)", "KWD = (λ zona − λ tempat) / 15", "KWD,28|"),
+    ("Jam tengah hari", "12", "12,29|"),
+    ("Terbenam Matahari", "Ghurub = 12 − e + t☉ / 15 + KWD", "Ghurub,30|"),
+    ("Terbenam (GMT)", "Ghurub' = Ghurub − Z", "Ghurub',31|"),
+    ("Asensio rekta Matahari", "α☉ pada jam Ghurub'", "α☉,32|"),
+    ("Asensio rekta Bulan", "α☽ pada jam Ghurub'", "α☽,33|"),
+    ("Sudut waktu Bulan", "t☽ = α☉ − α☽ + t☉", "t☽,34|"),
+    ("Deklinasi Bulan", "δ☽ pada jam Ghurub'", "δ☽,35|"),
+    ("Tinggi hakiki Bulan", "h☽ = sin⁻¹(sin φ sin δ☽ + cos φ cos δ☽ cos t☽)", "h☽,36|"),
+    ("Horizontal parallax Bulan", "HP pada jam Ghurub'", "HP,37|"),
+    ("Parallax", "Par = cos h☽ × HP", "Par,38|"),
+    ("Semi diameter Bulan", "SD☽ pada jam Ghurub'", "SD☽,39|"),
+    ("Tinggi piringan atas Bulan", "h' = h☽ − Par + SD☽", "h',40|"),
+    ("Refraksi", "Ref = dari tabel Refraksi pada h☽", "Ref,41|"),
+    ("Tinggi mar'i hilal", "h = Ref + h' + Dip", "h,42|"),
+    ("Lama hilal di atas ufuk", "Mukts = h / 15", "Mukts,43|"),
+    ("Terbenam Bulan", "Ghurub☽ = Mukts + Ghurub", "Ghurub☽,44|"),
+    ("Azimut Matahari", "A☉ = 90 − tan⁻¹(1 / (tan δ☉ cos φ / sin t☉ − sin φ / tan t☉))", "A☉,45|"),
+    ("Azimut Bulan", "A☽ = 90 − tan⁻¹(1 / (tan δ☽ cos φ / sin t☽ − sin φ / tan t☽))", "A☽,46|"),
+    ("Posisi hilal dari Matahari", "PH = A☽ − A☉", "PH,47|"),
+    ("Fraksi iluminasi Bulan", "k pada jam Ghurub'", "k,48|"),
+    ("Nurul hilal", "Nur = √(h² + PH²) / 15", "Nur,49|"),
+    ("Kemiringan hilal", "Q = tan⁻¹(PH / h)", "Q,50|"),
 ]
 
 # The second array of BM and NA, x0 to x13: the obliquity, the moon's greatest latitude, the

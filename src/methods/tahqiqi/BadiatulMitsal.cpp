@@ -61,7 +61,7 @@ void BadiatulMitsal::HitungHilal() {
     h[18] = matholi(h[8], h[17]);
     h[19] = h[18] + h[15];
     h[20] = h[7];
-    h[21] = h[19] - h[20];
+    h[21] = selisihBusur(h[19], h[20]);
     h[22] = h[21] / 15;
     h[23] = h[15] - h[21];
     h[24] = asn(sn(phi) * sn(h[13])) + asn(cs(phi) * cs(h[13]) * cs(h[23]));

@@ -717,7 +717,8 @@ void Ephemeris::IsiTabelER(ClsFlexGrid& g) {
 }
 
 LembarRumus Ephemeris::RumusER() {
-    std::vector<Nilai> nilai;
+    // The sheet's variable lists number the results from 1, as the other precise books' do.
+    std::vector<Nilai> nilai{Nilai()};
     for (double x : ERHasil) nilai.push_back(NilaiER(x));
     const AnggotaRumus* a = CariAnggotaRumus(48);
     return a ? BangunRumus(*a, k_.koneksi.TQQRumuz, nilai) : LembarRumus();

@@ -28,4 +28,13 @@ inline double matholi(double bujur, double busur) {
     return busur;
 }
 
+// The arc from b to a the short way round, in (-180, 180]. Right ascensions counted from the
+// head of Capricorn start again there, and longitudes at the head of Aries; a moon just past
+// either point is a few degrees ahead of the sun, not nearly a whole circle behind it, and the
+// hand-worker adds the circle.
+inline double selisihBusur(double a, double b) {
+    const double d = std::remainder(a - b, 360.0);
+    return d == -180 ? 180 : d;
+}
+
 }  // namespace falak::hilal

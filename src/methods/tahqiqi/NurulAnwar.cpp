@@ -76,14 +76,14 @@ void NurulAnwar::HitungHilal() {
     h[17] = matholi(h[7], h[16]);
     h[18] = h[17] + h[13];
     h[19] = h[6];
-    h[20] = h[18] - h[19];
+    h[20] = selisihBusur(h[18], h[19]);
     h[21] = h[13] - h[20];
     h[22] = asn(sn(phi) * sn(h[12]) + cs(phi) * cs(h[12]) * cs(h[21]));
     h[23] = ((h[22] + h[20]) / 2) / 15;
     h[24] = asn(sn(h[1]) / cs(phi));
     h[25] = acs(sn(h[21]) * cs(h[12]) / cs(h[22]));
     h[26] = std::fabs(h[24]) - std::fabs(h[25]);
-    h[27] = h[7] - h[0];
+    h[27] = selisihBusur(h[7], h[0]);
     h[28] = h[27] / 15 + h[10] / 60;
 }
 
