@@ -191,7 +191,7 @@ void SyamsulHilal::HilalSH() {
     SHHilal(10) = HitungSH(-1, 1, 0, SHHilal(8), 0, SHHilal(9), SHHariText);
 }
 
-void SyamsulHilal::KesimpulanSH(HasilHitung& h) {
+void SyamsulHilal::KesimpulanSH(HasilHitung& h, bool kata) {
     BahanKesimpulan b;
     b.judul = k_.sesi.namaKitab;
     b.ijtima = SHIjtimaAlamah;
@@ -203,6 +203,7 @@ void SyamsulHilal::KesimpulanSH(HasilHitung& h) {
     b.nur = keNilai(SHHilal(9), SHHilal(9) > 180 ? 0 : 1);
     // The markaz line as the treatise's writer has it, its latitude flagged 1.
     b.markaz = {"Jepara", 6, 36, 1, kBujurMarkazDerajat, kBujurMarkazMenit, 1};
+    b.kata = kata;
     TulisKesimpulanTaqribi(k_, b, h.kesimpulan, h.ringkasan);
 }
 
@@ -273,7 +274,7 @@ std::optional<Nilai> SyamsulHilal::AwalBulan(int32_t tahun, int16_t bulan) {
     return AwalBulanJam(HariIjtimaTaqribi(k_, SHIjtimaAlamah), SHHilal(5));
 }
 
-HasilHitung SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar) {
+HasilHitung SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar, bool kata) {
     Kemajuan& maju = k_.kemajuan;
     HasilHitung h;
     maju.mulai(kLangkah);
@@ -285,7 +286,7 @@ HasilHitung SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lemb
         (this->*tahap)();
         maju.langkah();
     }
-    KesimpulanSH(h);
+    KesimpulanSH(h, kata);
     maju.langkah();
     if (lembar) {
         ClsFlexGrid g(&h.lembarBaru(""));
