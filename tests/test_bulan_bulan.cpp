@@ -240,6 +240,18 @@ TEST_F(BulanBulan, TheDaySoughtIsTheOneNearTheEndOfTheMonthNotAWeekEarly) {
     }
 }
 
+TEST_F(BulanBulan, SyamsuInTheYearsBeforeItsFirstGroupIsNotTwoDaysEarly) {
+    // The conjunctions ending Ramadan 2 and Ramadan 30: 24 March 624 at 20.12 UT and 25 May 651
+    // at 02.17 UT (Julian calendar), both on the 25th at Jakarta.
+    ClsConnection koneksi(lokasi());
+    Workspace ws(koneksi);
+    for (const auto& [tahun, teks] : {std::pair{"2", "624 03 25 "}, std::pair{"30", "651 05 25 "}}) {
+        const auto h = ws.mnuProsesIjSub("SH", tahun, 9, "Jakarta");
+        ASSERT_TRUE(h.lembar);
+        EXPECT_EQ(h.lembar->ringkasan.tanggalSipil.teks().substr(0, 10), teks) << tahun;
+    }
+}
+
 TEST_F(BulanBulan, ThirtyFirstOfDecemberIsNotDayNaughtOfJanuary) {
     // The conjunction of 31 December 2024, 05.27 WIB. On that day the sun is some 3 minutes
     // slow and Jakarta lies 7 1/2 minutes of time east of the zone's meridian.

@@ -246,3 +246,29 @@ TEST_F(DataAsli, TheSessionsCalendarRefusesAYearThatIsNoNumber) {
         }
     }
 }
+
+// The first day of Sya'ban 1447 by Sullam's short scheme falls a day before the book's own
+// (19 against 20 January 2026 at Pasuruan): once the session has reckoned that month in full,
+// its calendar keeps the book's day, for that book at that place only.
+TEST_F(DataAsli, TheMonthJustReckonedKeepsItsOwnFirstDay) {
+    const auto awalSyaban = [&](const char* kitab, const char* tempat) {
+        const HasilKalender h = ProsesKal12(ws, kitab, "2026", false, tempat);
+        EXPECT_TRUE(h.kalender);
+        for (const BulanKalender& b : h.kalender->bulan)
+            for (const HariKalender& d : b.hari)
+                if (d.awalBulan() && d.bulanHijri == 8 && d.tahunHijri == 1447) return d.nomor;
+        return int64_t{0};
+    };
+    const int64_t singkat = awalSyaban("SN", "Pasuruan");
+    const int64_t fathur = awalSyaban("FR", "Pasuruan"), jakarta = awalSyaban("SN", "Jakarta");
+    const auto h = ws.mnuProsesIjSub("SN", "1447", 7, "Pasuruan");
+    ASSERT_TRUE(h.lembar);
+    const int64_t kitab = nomor(h.lembar->ringkasan.awalBulan);
+    ASSERT_NE(kitab, singkat);
+    EXPECT_EQ(awalSyaban("SN", "Pasuruan"), kitab);
+    EXPECT_EQ(awalSyaban("FR", "Pasuruan"), fathur);
+    EXPECT_EQ(awalSyaban("SN", "Jakarta"), jakarta);
+    // A later month's run is the one spoken last.
+    ASSERT_TRUE(ws.mnuProsesIjSub("SN", "1447", 8, "Pasuruan").lembar);
+    EXPECT_EQ(awalSyaban("SN", "Pasuruan"), singkat);
+}

@@ -4,6 +4,7 @@ FALAK is the falak executable, FALAK_CONTOH_XLSX the program that writes the mad
 contoh_xlsx.cpp."""
 import json
 import os
+import re
 import shutil
 import subprocess
 import tempfile
@@ -147,6 +148,22 @@ class Buku(unittest.TestCase):
             self.assertEqual(rumus, ws[f"G{baris}"].value, baris)
             self.assertIn(" = ", angka)
         self.assertEqual(tips["F106"].promptTitle, "Kemiringan hilal")
+
+    def test_the_tip_of_a_hilal_value_shows_that_value(self):
+        for kitab, langkah in [("BM", 27), ("NA", 24)]:
+            berkas = self.tulis(f"{kitab}.xlsx", "hisab", "--kitab", kitab, "--tahun", "1445", "--bulan", "8")
+            ws = openpyxl.load_workbook(berkas).worksheets[0]
+            tips = ws.data_validations.dataValidation
+            self.assertEqual(len(tips), langkah, kitab)
+            for tip in tips:
+                # The tip stands on the value's first field (its Buruj); the minutes and the
+                # whole seconds that it ends with are those of the fields to its left.
+                sel = ws[str(tip.sqref)]
+                nilai = re.search(r"-?\d+°(\d+)'(?:(\d+)(?:\.\d+)?'')?$", tip.prompt)
+                self.assertTrue(nilai, tip.prompt)
+                menit, detik = ws.cell(row=sel.row, column=sel.column + 4), ws.cell(row=sel.row, column=sel.column + 6)
+                self.assertEqual(int(nilai.group(1)), menit.value, (kitab, tip.promptTitle))
+                self.assertEqual(int(nilai.group(2) or 0), detik.value, (kitab, tip.promptTitle))
 
     def test_eclipse_sheets_laid_out_as_the_book(self):
         gerhana = ["gerhana", "--kitab", "SN", "--markaz", "Jakarta"]

@@ -15,6 +15,12 @@ std::optional<int64_t> nomorDari(const std::optional<Nilai>& tanggal) {
     return NomorHari(AmbilTingkat(*tanggal, 6), AmbilTingkat(*tanggal, 7), AmbilTingkat(*tanggal, 8));
 }
 
+// Month (tahun, bulan) with a month above 12 run into the next year and one below 1 into the
+// year before.
+std::pair<int32_t, int> bulanRata(int32_t tahun, int bulan) {
+    return {tahun + static_cast<int32_t>(std::floor((bulan - 1) / 12.0)), static_cast<int>(SisaBawah(bulan - 1, 12)) + 1};
+}
+
 bool tahunAngka(const std::string& teks) {
     if (!AdalahAngka(teks)) return false;
     const double v = ValAngka(teks);
@@ -72,13 +78,20 @@ HasilKalender ProsesKal12(Workspace& ws, const std::string& kodeKitab, const std
         h.dariModul = true;
         const EntriModul& kitab = *h.kitab;
         sumber = [&ws, &kitab](int32_t t, int b) {
-            const int32_t tahunBulan = t + static_cast<int32_t>(std::floor((b - 1) / 12.0));
-            const int bulan = static_cast<int>(SisaBawah(b - 1, 12)) + 1;
+            const auto [tahunBulan, bulan] = bulanRata(t, b);
             return nomorDari(ws.awalBulan(kitab, tahunBulan, bulan));
         };
     } else {
         h.pesan = Workspace::Pesan{"Sabar rek..", "Kitab " + std::string(h.kitab->nama) + " belum tersedia."};
         return h;
+    }
+    // The month the session has just reckoned in full by this book at this place keeps the
+    // first day that its conclusion spoke.
+    const auto& terakhir = ws.awalTerakhir;
+    if (terakhir && terakhir->kitab == h.kitab && terakhir->tempat == ws.sesi.tempat.nama) {
+        sumber = [singkat = std::move(sumber), ucap = *terakhir](int32_t t, int b) {
+            return bulanRata(t, b) == std::pair{ucap.tahun, ucap.bulan} ? nomorDari(ucap.awal) : singkat(t, b);
+        };
     }
     h.kalender = SusunKalender(tahun, hijriah, sumber);
     if (!h.kalender)

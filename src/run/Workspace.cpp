@@ -141,6 +141,7 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriMo
         } else {
             siapkan(*entri, tahun, bulan);
             HasilHitung h = m.Hitung({tahun, static_cast<int16_t>(bulan), false, keluaran == Keluaran::Ringkas});
+            catatAwal(*entri, tahun, bulan, h.ringkasan);
             hasil.ringkas.push_back({entri, tahun, bulan, std::move(h.kesimpulan), std::move(h.ringkasan), std::nullopt});
         }
         kemajuan.maju();
@@ -196,6 +197,7 @@ LembarKerja* Workspace::Proses(const EntriModul& entri, Modul& m, int32_t tahun,
     siapkan(entri, tahun, bulan);
     HasilHitung h = m.Hitung({tahun, static_cast<int16_t>(bulan), true});
     if (h.lembar.empty()) return nullptr;
+    catatAwal(entri, tahun, bulan, h.ringkasan);
     const std::string jenis = entri.garapan == Garapan::Ij ? "Hisab Awal Bulan"
                                                             : std::string(NamaKelompok(entri.garapan, entri.aliran));
     const std::string judul = jenis + " " + std::to_string(tahun) + " H. " + std::to_string(bulan);
@@ -219,6 +221,11 @@ LembarKerja* Workspace::Proses(const EntriModul& entri, Modul& m, int32_t tahun,
         rumus.tambah(lembar[pertama]->kunci, std::move(*h.rumus));
     }
     return lembar.at(pertama).get();
+}
+
+void Workspace::catatAwal(const EntriModul& entri, int32_t tahun, int bulan, const Ringkasan& r) {
+    if (entri.garapan != Garapan::Ij || r.awalBulan.kosongTeks()) return;
+    awalTerakhir = AwalTerucap{&entri, sesi.tempat.nama, tahun, bulan, r.awalBulan};
 }
 
 std::optional<Workspace::Pesan> Workspace::tolakLintang(Garapan jenis) const {

@@ -138,7 +138,20 @@ public:
     std::vector<std::unique_ptr<LembarKerja>> lembar;
     DaftarRumus rumus;  // the formula sheets of the precise books' runs, by tab
 
+    // The first of the month that the last month's run spoke in its conclusion (the last date
+    // spoken): the year calendar of the same book at the same place takes it over for that
+    // month rather than reckon it afresh by its short scheme.
+    struct AwalTerucap {
+        const EntriModul* kitab = nullptr;
+        std::string tempat;
+        int32_t tahun = 0;
+        int bulan = 0;  // the month at whose end the ijtima' falls
+        Nilai awal;
+    };
+    std::optional<AwalTerucap> awalTerakhir;
+
 private:
+    void catatAwal(const EntriModul& entri, int32_t tahun, int bulan, const Ringkasan& r);
     // The solar eclipse's refusal of a place whose latitude its tables do not hold.
     std::optional<Pesan> tolakLintang(Garapan jenis) const;
     // Proses: one run of the module with its sheets, which become new work sheets; the first

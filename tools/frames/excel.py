@@ -3,7 +3,7 @@
 printed page): data/MergenExcel.csv (cells to show as one), data/ClearTxtMargen.csv (cells to
 empty first) and data/Lines.csv (the lines of the book's table); and data/Validation.csv, the
 cell of each step of a precise book's formula sheet, which carries that step's formula as its
-tip.
+tip (read from the variable lists of data/TQQRumuz.csv: run this again when they change).
 
 Each treatise X has one column in each table (MergnX, ClearTxtX, Lines_X; Khulashotu's clear
 column is ClearTxtKWI), one range a row, read from the first row to the last; an empty cell is
@@ -206,10 +206,28 @@ def tadil_kusuf():
 KERANGKA_GERHANA = ["SN", "FR", "IDB1", "TZ", "FK"]
 
 
-def validation_ephemeris():
-    """The fifty results of the Ephemeris reckoning, steps 1 to 50 of its formula sheet, stand in
-    rows 56 to 105 of its sheet, the value in column 5."""
-    return [rentang(56 + i, 5).split(":")[0] for i in range(50)]
+def hasil_langkah(kode):
+    """The result each step of a book's formula sheet gives, from data/TQQRumuz.csv (written by
+    tools/rumus/rumuz.py): the element of the run's first array that its variable list ends
+    with, the value the step arrives at."""
+    berkas = os.path.join(os.path.dirname(__file__), "..", "..", "data", "TQQRumuz.csv")
+    with open(berkas, encoding="utf-8", newline="") as fh:
+        baris = list(csv.DictReader(fh))
+    hasil = []
+    for b in baris:
+        daftar = (b.get(kode + "Var") or "").strip()
+        if not daftar:
+            break
+        angka = [seg.rsplit(",", 1)[1] for seg in daftar.split("|") if "," in seg]
+        angka = [int(a) for a in angka if a.isdigit()]
+        hasil.append(angka[-1] if angka else None)
+    return hasil
+
+
+def validation(kode, sel):
+    """The cell of each step of the book's formula sheet: sel(k) is where element k of its first
+    array stands on the sheet; a step without one has none."""
+    return ["" if k is None else rentang(*sel(k)).split(":")[0] for k in hasil_langkah(kode)]
 
 
 PERIKSA = "--verify" in sys.argv[1:]
@@ -259,12 +277,20 @@ def main():
           [s[1] for s in sheets.values()])
     tulis("Lines.csv", [f"Lines_{x}" for x in kode], [s[2] for s in sheets.values()])
     # One column a book of the formula family, named as the prefix of its formula columns.
-    tips = {"ER": validation_ephemeris()}
+    # The Ephemeris's fifty results stand in rows 56 to 105, the value in column 5; the hilal
+    # of the precise books (element k its [k - 1]) from row 15 down, its first field at column
+    # 19 beside the label.
+    tips = {
+        "ER": validation("ER", lambda k: (56 + k, 5)),
+        "BM": validation("BM", lambda k: (14 + k, 19)),
+        "NA": validation("NA", lambda k: (14 + k, 19)),
+    }
     tulis("Validation.csv", list(tips), list(tips.values()))
 
 
 if __name__ == "__main__":
     main()
     for nama in USANG:
-        print(f"{nama} is not what the generator writes", file=sys.stderr)
+        print(f"{nama} is not what the generator writes (run python3 tools/frames/excel.py; Validation.csv follows "
+              "data/TQQRumuz.csv)", file=sys.stderr)
     sys.exit(1 if USANG else 0)

@@ -62,8 +62,11 @@ void SyamsulHilal::PokokSH(int32_t tahun, int16_t bulan) {
         SHSisaTahun = static_cast<int16_t>(y % 30);
         langkah = &kTambah;
     } else if (y > 0) {
+        // No group to move: the nothing row is taken zero times, since GeserSH moves the
+        // weekday by 5 for every step it is given, a zero step included, and years 2 to 30
+        // would fall two days early.
         SHDawr = 0;
-        kali = 1;
+        kali = 0;
         SHSisaTahun = static_cast<int16_t>(y);
         langkah = &kNol;
     } else {
