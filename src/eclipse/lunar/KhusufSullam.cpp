@@ -7,7 +7,7 @@ namespace falak {
 
 namespace {
 
-const DataKhusuf kKhusufSullam = {"SN", 106, 52};
+const DataGerhana kKhusufSullam = {"SN", 106, 52, 0, 3, 4, 4};
 
 }  // namespace
 
@@ -15,7 +15,7 @@ KhusufSullam::KhusufSullam(Konteks k) : KerangkaKhusuf(k, kKhusufSullam) {}
 
 void KhusufSullam::PokokKhusuf(int32_t tahun, int16_t bulan) {
     HsBulan = bulan;
-    const BagiTahunSullam bagi = BagiTahun(tahun);
+    const TahunTerbagi bagi = BagiTahun(tahun);
     HsDawr = bagi.dawr;
     HsSisaTahun = bagi.sisa;
     // The base drifts with the groups; the value builder carries minutes out of range.
