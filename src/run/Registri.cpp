@@ -1,7 +1,9 @@
 #include "run/Registri.h"
 
 #include "eclipse/lunar/KhusufSullam.h"
+#include "eclipse/lunar/KhusufSyamsu.h"
 #include "eclipse/solar/KusufSullam.h"
+#include "eclipse/solar/KusufSyamsu.h"
 #include "methods/tahqiqi/Ephemeris.h"
 #include "methods/taqribi/FaidlulKarim.h"
 #include "methods/taqribi/FathurRouf.h"
@@ -73,7 +75,8 @@ const std::vector<EntriModul>& DaftarModul() {
         {"FR", Hs, 7, "HsFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},
         {"IDB1", Hs, 12, "HsIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi, {},
          nullptr},
-        {"SH", Hs, 20, "HsSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi, {}, nullptr},
+        {"SH", Hs, 20, "HsSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi,
+         tabelBulan({"TRBthMabSH", "TRBSyahruSH", "TRBTaadilSH"}), buat<KhusufSyamsu>},
         {"TZ", Hs, 24, "HsTZ_", "Tadzkirotu al-Ikhwan", "Tadzkirotu al-Ikhwan", Taqribi, {}, nullptr},
         {"FK", Hs, 28, "HsFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi, {}, nullptr},
         {"IDB2", Hs, 16, "HsIDB2_", "Ittifaq Dzatu al-Bain Tahqiqi", "Ittifaq Dzatu al-Bain (Tahqiqi)", Tahqiqi, {},
@@ -88,7 +91,8 @@ const std::vector<EntriModul>& DaftarModul() {
         {"FR", Kf, 8, "KfFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},
         {"IDB1", Kf, 13, "KfIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi, {},
          nullptr},
-        {"SH", Kf, 21, "KfSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi, {}, nullptr},
+        {"SH", Kf, 21, "KfSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi,
+         tabelBulan({"TRBthMabSH", "TRBSyahruSH", "TRBTaadilSH"}), buat<KusufSyamsu>},
         {"TZ", Kf, 25, "KfTZ_", "Tadzkirotu al-Ikhwan", "Tadzkirotu al-Ikhwan", Taqribi, {}, nullptr},
         {"FK", Kf, 29, "KfFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi, {}, nullptr},
         {"IDB2", Kf, 17, "KfIDB2_", "Ittifaq Dzatu al-Bain Tahqiqi", "Ittifaq Dzatu al-Bain (Tahqiqi)", Tahqiqi, {},

@@ -118,7 +118,8 @@ struct MarkazKusuf {
     const char* tempat;
     double lintang, bujur;
 };
-const MarkazKusuf kMarkazKusuf[] = {{"SN", "Jakarta", -(6 + 15 / 60.0), 106 + 52 / 60.0}};
+const MarkazKusuf kMarkazKusuf[] = {{"SN", "Jakarta", -(6 + 15 / 60.0), 106 + 52 / 60.0},
+                                    {"SH", "Jepara", -(6 + 36 / 60.0), 110 + 40 / 60.0}};
 
 void cocokKusuf(Workspace& ws) {
     std::printf("\nSolar eclipses of %d to %d H seen at the markaz, against the book's search\n", kTahunAwal, kTahunAkhir);

@@ -164,6 +164,17 @@ void KerangkaKhusuf::FaseKhusuf() {
     HsFaseTotal(5) = kurangAlamah(HsFaseTotal(4), HsFaseTotal(3));
 }
 
+bool KerangkaKhusuf::TahapKhusuf() {
+    for (void (KerangkaKhusuf::*tahap)() : {&KerangkaKhusuf::TaadilKhusuf, &KerangkaKhusuf::QomarKhusuf,
+                                            &KerangkaKhusuf::IstiqbalKhusuf, &KerangkaKhusuf::ArdlKhusuf,
+                                            &KerangkaKhusuf::BuhtuKhusuf, &KerangkaKhusuf::UkuranKhusuf,
+                                            &KerangkaKhusuf::FaseKhusuf}) {
+        (this->*tahap)();
+        k_.kemajuan.langkah();
+    }
+    return true;
+}
+
 std::optional<Nilai> KerangkaKhusuf::awalBulan(int32_t tahun, int16_t bulan) {
     // The ijtima' at the end of the month before opens this month. Fathu's reckoning writes the
     // chosen date of the session; the eclipse run keeps its own.
@@ -185,14 +196,7 @@ HasilHitung KerangkaKhusuf::HitungKhusuf(int32_t tahun, int16_t bulan, bool lemb
         return h;
     }
     const auto awal = awalBulan(tahun, bulan);
-    for (void (KerangkaKhusuf::*tahap)() : {&KerangkaKhusuf::TaadilKhusuf, &KerangkaKhusuf::QomarKhusuf,
-                                            &KerangkaKhusuf::IstiqbalKhusuf, &KerangkaKhusuf::ArdlKhusuf,
-                                            &KerangkaKhusuf::BuhtuKhusuf, &KerangkaKhusuf::UkuranKhusuf,
-                                            &KerangkaKhusuf::FaseKhusuf}) {
-        (this->*tahap)();
-        maju.langkah();
-    }
-    if (!UjiMalam(HsFase(3), HsFase(4)) || !awal) {
+    if (!TahapKhusuf() || !UjiMalam(HsFase(3), HsFase(4)) || !awal) {
         maju.penuh();
         return h;
     }

@@ -76,6 +76,10 @@ public:
 protected:
     KerangkaKhusuf(Konteks k, const DataKhusuf& data);
 
+    // The stages from the ta'dil to the phases; false when the month turns out to hold no
+    // eclipse after all. A book that reckons in decimals works them its own way and leaves
+    // its results in these rows.
+    virtual bool TahapKhusuf();
     // The sun's place at the full moon in HsSyams: Sullam's from the Markaz and the auj.
     virtual void hitungSyams();
     // The table of the hours per degree.
