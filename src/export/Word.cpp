@@ -22,6 +22,8 @@ QString q(std::string_view s) { return QString::fromUtf8(s.data(), static_cast<q
 QTextCharFormat huruf(int ukuran, bool tebal) {
     QTextCharFormat f;
     f.setFont(QFont(QStringLiteral("DejaVu Sans"), ukuran, tebal ? QFont::Bold : QFont::Normal));
+    // The document writer names the face by this property.
+    f.setProperty(QTextFormat::FontFamily, QStringLiteral("DejaVu Sans"));
     return f;
 }
 
@@ -38,6 +40,7 @@ void tulisBaris(QTextCursor& c, const QTextBlockFormat& blok, const QTextCharFor
 std::string TulisRumusOdt(const LembarRumus& rumus, std::string_view keterangan, const std::filesystem::path& berkas) {
     const auto aplikasi = AplikasiTanpaLayar();
     QTextDocument doc;
+    doc.setDefaultFont(QFont(QStringLiteral("DejaVu Sans"), 10));
     doc.setMetaInformation(QTextDocument::DocumentTitle, q(rumus.judul));
     QTextCursor c(&doc);
     c.setBlockCharFormat(huruf(14, true));

@@ -3,7 +3,7 @@
 printed page): data/MergenExcel.csv (cells to show as one), data/ClearTxtMargen.csv (cells to
 empty first) and data/Lines.csv (the lines of the book's table); and data/Validation.csv, the
 cell of each step of a precise book's formula sheet, which carries that step's formula as its
-tip.
+tip (read from the variable lists of data/TQQRumuz.csv: run this again when they change).
 
 Each treatise X has one column in each table (MergnX, ClearTxtX, Lines_X; Khulashotu's clear
 column is ClearTxtKWI), one range a row, read from the first row to the last; an empty cell is
@@ -291,5 +291,6 @@ def main():
 if __name__ == "__main__":
     main()
     for nama in USANG:
-        print(f"{nama} is not what the generator writes", file=sys.stderr)
+        print(f"{nama} is not what the generator writes (run python3 tools/frames/excel.py; Validation.csv follows "
+              "data/TQQRumuz.csv)", file=sys.stderr)
     sys.exit(1 if USANG else 0)
