@@ -222,16 +222,17 @@ def tahqiqi(hasil):
     return f
 
 
-def khusuf_sullam():
+def khusuf_sullam(akhir="الأوج"):
     """Sullam al-Nairoin's lunar eclipse: a grid of 58 rows by 40; the values written by the run
-    at the columns below (the right block at 37, the look-ups at 19 and at 9)."""
+    at the columns below (the right block at 37, the look-ups at 19 and at 9). Syamsu
+    al-Hilal's is the same sheet with the Wasath in the last cell of the top rows."""
     f = []
 
     def label(teks, baris, k1, k2=None):
         f.append((teks, baris, k1, k1 if k2 is None else k2))
 
     # The last cell is the auj, as in the book's month reckoning.
-    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", "الأوج"])
+    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", akhir])
     kanan = [
         "تعديل الخاصة", "تعديل المركز", "المجموع", "الحاصل", "تعديل المركز", "تعديل القمر",
         "المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس", "تقويم القمر",
@@ -266,15 +267,16 @@ def khusuf_sullam():
     return f
 
 
-def kusuf_sullam():
+def kusuf_sullam(akhir="الأوج"):
     """Sullam al-Nairoin's solar eclipse: a grid of 47 rows by 40; the run writes its right
-    block at column 37, the place's rows at 19 and the double look-ups at 9."""
+    block at column 37, the place's rows at 19 and the double look-ups at 9. Syamsu al-Hilal's
+    is the same sheet with the Wasath in the last cell of the top rows."""
     f = []
 
     def label(teks, baris, k1, k2=None):
         f.append((teks, baris, k1, k1 if k2 is None else k2))
 
-    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", "الأوج"])
+    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", akhir])
     kanan = [
         "تعديل الخاصة", "تعديل المركز", "المجموع", "الحاصل", "تعديل المركز", "تعديل القمر",
         "المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس",
@@ -410,6 +412,9 @@ def main():
         "SNGB": khusuf_sullam(),
         "SNGM": kusuf_sullam(),
         "SNTK": koreksi_kusuf(),
+        "SHGB": khusuf_sullam("الوسط"),
+        "SHGM": kusuf_sullam("الوسط"),
+        "SHTK": koreksi_kusuf(),
         "BM": tahqiqi(HASIL_BM),
         "NA": tahqiqi(HASIL_NA),
         "ER": ephemeris(),
