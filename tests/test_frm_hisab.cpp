@@ -520,6 +520,24 @@ private slots:
         std::ofstream(folder.berkasDaerah()) << uji::kDaerahUji;
     }
 
+    void eclipseMenuOpensTheSheetWithItsConclusion() {
+        // The total lunar eclipse of 26 May 2021, in mid-Syawal 1442, by Fathu al-Ro'uf.
+        pilih("Surabaya", "1442", 10);
+        cari(*w, "mnuProsesGB|7")->trigger();
+        tungguSelesai();
+        QCOMPARE(tab()->count(), 1);
+        TabLembar* t = lembar(0);
+        QVERIFY2(t->objectName().startsWith("HsFR_"), qPrintable(t->objectName()));
+        const QStringList kesimpulan = t->kesimpulan()->toPlainText().split('\n');
+        QCOMPARE(kesimpulan.value(0), QString("Fathu al-Ro'uf al-Mannan"));
+        QVERIFY2(kesimpulan.value(1).startsWith("Gerhana terjadi pada : Malam Kamis"), qPrintable(kesimpulan.value(1)));
+        QVERIFY(kesimpulan.value(1).endsWith("27 Mei 2021 M."));
+        // The book's sum row keeps the sun's mean place in its third group.
+        GridLembar* g = t->grid();
+        QVERIFY(g->model().index(0, 0).data().toString().startsWith(QString::fromUtf8("خسوف القمر في شهر شوال سنة 1442")));
+        QCOMPARE(g->model().index(1, 21).data().toString(), QString::fromUtf8("الوسط"));
+    }
+
     void screenshotSavesTheWholeWindowAfterARun() {
         QTemporaryDir tmp;
         const QString gambar = tmp.filePath("layar.png");

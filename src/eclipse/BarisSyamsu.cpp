@@ -55,10 +55,7 @@ void SalinBarisSH(const SyamsulHilal& sh, std::span<Nilai, 5> majmu, std::span<N
                   std::span<Nilai, 5> syahr, std::span<Nilai, 5> jumlah) {
     const auto salin = [](const Baris<6, float>& dari, std::span<Nilai, 5> ke) {
         ke[0] = AlamahSH(dari(1), dari(2));
-        ke[1] = NilaiSH(dari(3));
-        ke[2] = NilaiSH(dari(5));
-        ke[3] = NilaiSH(dari(6));
-        ke[4] = NilaiSH(dari(4));
+        for (size_t i = 1; i < 5; ++i) ke[i] = NilaiSH(dari(i + 2));
     };
     salin(sh.SHMajmu, majmu);
     salin(sh.SHMabsut, mabsut);

@@ -28,8 +28,8 @@ float HariSH(const std::string& teks);
 // Degrees brought into 0 .. 360.
 float PutarSH(float x);
 
-// The rows of the years, the single years, the month and their sum in five cells: alamah
-// (weekday and hours), Hishshoh, Khossyoh, Markaz and Wasath.
+// The rows of the years, the single years, the month and their sum in the five cells of
+// Fathu's pattern: alamah (weekday and hours), Hishshoh, Wasath, Khossyoh and Markaz.
 void SalinBarisSH(const SyamsulHilal& sh, std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut,
                   std::span<Nilai, 5> syahr, std::span<Nilai, 5> jumlah);
 

@@ -1,5 +1,9 @@
 #include "run/Registri.h"
 
+#include "eclipse/GerhanaFaidlulKarim.h"
+#include "eclipse/GerhanaFathurRouf.h"
+#include "eclipse/GerhanaIttifaqDzatilBain.h"
+#include "eclipse/GerhanaTadzkirotulIkhwan.h"
 #include "eclipse/lunar/KhusufSullam.h"
 #include "eclipse/lunar/KhusufSyamsu.h"
 #include "eclipse/solar/KusufSullam.h"
@@ -41,6 +45,10 @@ std::vector<std::string_view> tabelTahqiqi() {
                        "TQQRumuz"});
 }
 
+// The tables of a lunar eclipse, and of a solar one, which reads the rising times besides.
+std::vector<std::string_view> tabelGerhana() { return tabelBulan({"TRBSyahru", "TRBTaadil"}); }
+std::vector<std::string_view> tabelKusuf() { return tabelBulan({"TRBSyahru", "TRBTaadil", "TQQTaadil"}); }
+
 }  // namespace
 
 const std::vector<EntriModul>& DaftarModul() {
@@ -72,13 +80,13 @@ const std::vector<EntriModul>& DaftarModul() {
          buat<Ephemeris>},
         {"SN", Hs, 3, "HsSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi,
          tabelBulan({"TRBSyahru", "TRBTaadil"}), buat<KhusufSullam>},
-        {"FR", Hs, 7, "HsFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},
-        {"IDB1", Hs, 12, "HsIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi, {},
-         nullptr},
+        {"FR", Hs, 7, "HsFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, tabelGerhana(), buat<KhusufFathurRouf>},
+        {"IDB1", Hs, 12, "HsIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi,
+         tabelGerhana(), buat<KhusufIttifaqDzatilBain>},
         {"SH", Hs, 20, "HsSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi,
          tabelBulan({"TRBthMabSH", "TRBSyahruSH", "TRBTaadilSH"}), buat<KhusufSyamsu>},
-        {"TZ", Hs, 24, "HsTZ_", "Tadzkirotu al-Ikhwan", "Tadzkirotu al-Ikhwan", Taqribi, {}, nullptr},
-        {"FK", Hs, 28, "HsFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi, {}, nullptr},
+        {"TZ", Hs, 24, "HsTZ_", "Tadzkirotu al-Ikhwan", "Tadzkirotu al-Ikhwan", Taqribi, tabelGerhana(), buat<KhusufTadzkirotulIkhwan>},
+        {"FK", Hs, 28, "HsFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi, tabelGerhana(), buat<KhusufFaidlulKarim>},
         {"IDB2", Hs, 16, "HsIDB2_", "Ittifaq Dzatu al-Bain Tahqiqi", "Ittifaq Dzatu al-Bain (Tahqiqi)", Tahqiqi, {},
          nullptr},
         {"KW2", Hs, 37, "HsKW2_", "Khulashotu al-Wafiyah Tahqiqi", "Khulashotu al-Wafiyah (Tahqiqi)", Tahqiqi, {},
@@ -88,13 +96,13 @@ const std::vector<EntriModul>& DaftarModul() {
         {"ER", Hs, 49, "HsER_", "Ephemeris", "Ephemeris", Tahqiqi, {}, nullptr},
         {"SN", Kf, 4, "KfSN_", "Sullam al-Nairoin", "Sullam al-Nairoin", Taqribi,
          tabelBulan({"TRBSyahru", "TRBTaadil", "TQQTaadil"}), buat<KusufSullam>},
-        {"FR", Kf, 8, "KfFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, {}, nullptr},
-        {"IDB1", Kf, 13, "KfIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi, {},
-         nullptr},
+        {"FR", Kf, 8, "KfFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, tabelKusuf(), buat<KusufFathurRouf>},
+        {"IDB1", Kf, 13, "KfIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi,
+         tabelKusuf(), buat<KusufIttifaqDzatilBain>},
         {"SH", Kf, 21, "KfSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi,
          tabelBulan({"TRBthMabSH", "TRBSyahruSH", "TRBTaadilSH"}), buat<KusufSyamsu>},
-        {"TZ", Kf, 25, "KfTZ_", "Tadzkirotu al-Ikhwan", "Tadzkirotu al-Ikhwan", Taqribi, {}, nullptr},
-        {"FK", Kf, 29, "KfFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi, {}, nullptr},
+        {"TZ", Kf, 25, "KfTZ_", "Tadzkirotu al-Ikhwan", "Tadzkirotu al-Ikhwan", Taqribi, tabelKusuf(), buat<KusufTadzkirotulIkhwan>},
+        {"FK", Kf, 29, "KfFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi, tabelKusuf(), buat<KusufFaidlulKarim>},
         {"IDB2", Kf, 17, "KfIDB2_", "Ittifaq Dzatu al-Bain Tahqiqi", "Ittifaq Dzatu al-Bain (Tahqiqi)", Tahqiqi, {},
          nullptr},
         {"NA", Kf, 43, "KfNA_", "Nuru al-Anwar", "Nuru al-Anwar", Tahqiqi, {}, nullptr},

@@ -22,6 +22,7 @@
 
 #include <cmath>
 #include <cstdio>
+#include <string>
 #include <vector>
 
 #include "core/FungsHisab.h"
@@ -119,6 +120,10 @@ struct MarkazKusuf {
     double lintang, bujur;
 };
 const MarkazKusuf kMarkazKusuf[] = {{"SN", "Jakarta", -(6 + 15 / 60.0), 106 + 52 / 60.0},
+                                    {"FR", "Semarang", -(6 + 56 / 60.0), 110 + 24 / 60.0},
+                                    {"IDB1", "Surabaya", -(7 + 15 / 60.0), 112 + 46 / 60.0},
+                                    {"TZ", "Semarang", -(6 + 56 / 60.0), 110 + 24 / 60.0},
+                                    {"FK", "Sampang", -(7 + 11 / 60.0), 113 + 15 / 60.0},
                                     {"SH", "Jepara", -(6 + 36 / 60.0), 110 + 40 / 60.0}};
 
 void cocokKusuf(Workspace& ws) {
@@ -150,6 +155,7 @@ void cocokKusuf(Workspace& ws) {
         const auto hasil = ws.cariGerhana(Garapan::Kf, mk.kitab, std::to_string(kTahunAwal), kTahunAkhir, mk.tempat);
         int ketemu = 0, tiada = 0, lainBulan = 0;
         double jumlahJam = 0, maksJam = 0, jumlahJari = 0, maksJari = 0;
+        std::string takAda;
         for (const Workspace::HasilRun& r : hasil.ringkas) {
             const double t = tengahBuku(*r.gerhana, mk.bujur);
             Lokal* cocok = nullptr;
@@ -157,6 +163,8 @@ void cocokKusuf(Workspace& ws) {
                 if (std::fabs(s.puncak - t) < 2) cocok = &s;
             if (!cocok) {
                 ++tiada;
+                takAda += " " + std::to_string(r.tahun) + "/" + std::to_string(r.bulan) + " (" +
+                          std::to_string(r.gerhana->ashobi).substr(0, 4) + ")";
                 continue;
             }
             cocok->dipakai = true;
@@ -178,7 +186,7 @@ void cocokKusuf(Workspace& ws) {
         std::printf("      missed:");
         for (const Lokal& s : sejati)
             if (!s.dipakai) std::printf(" %d/%d (%.2f)", s.tahun, s.bulan, s.magnitudo);
-        std::printf("\n");
+        std::printf("\n      none (fingers):%s\n", takAda.c_str());
     }
 }
 

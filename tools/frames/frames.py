@@ -222,20 +222,37 @@ def tahqiqi(hasil):
     return f
 
 
-def khusuf_sullam(akhir="الأوج"):
+# The sum rows of the eclipses: Sullam keeps the auj in the last cell, as in its month
+# reckoning; the books of Fathu's pattern keep the sun's mean place (wasath) after the hishshoh.
+UNSUR_SULLAM = ["العلامة", "الحصة", "الخاصة", "المركز", "الأوج"]
+UNSUR_FATHUR = ["العلامة", "الحصة", "الوسط", "الخاصة", "المركز"]
+
+
+def syams_gerhana(fathur, istiqbal):
+    """The rows of the sun's place against the moon's correction: Sullam's from the markaz and
+    the auj, Fathu's from the mean place; at the full moon the moon's place opposite. Rows the
+    form does not fill stay without a label (None), so the rows below keep their places."""
+    if fathur:
+        baris = ["وسط الشمس", "تعديل القمر", "تقويم الشمس"] + (["تقويم القمر"] if istiqbal else [])
+    else:
+        baris = ["المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس"] + (["تقويم القمر"] if istiqbal else [])
+    return baris + [None] * ((6 if istiqbal else 5) - len(baris))
+
+
+def khusuf_sullam(fathur=False):
     """Sullam al-Nairoin's lunar eclipse: a grid of 58 rows by 40; the values written by the run
-    at the columns below (the right block at 37, the look-ups at 19 and at 9). Syamsu
-    al-Hilal's is the same sheet with the Wasath in the last cell of the top rows."""
+    at the columns below (the right block at 37, the look-ups at 19 and at 9). With fathur, the
+    same sheet for a book of Fathu's pattern."""
     f = []
 
     def label(teks, baris, k1, k2=None):
-        f.append((teks, baris, k1, k1 if k2 is None else k2))
+        if teks is not None:
+            f.append((teks, baris, k1, k1 if k2 is None else k2))
 
-    # The last cell is the auj, as in the book's month reckoning.
-    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", akhir])
+    kepalaJumlah(label, UNSUR_FATHUR if fathur else UNSUR_SULLAM)
     kanan = [
         "تعديل الخاصة", "تعديل المركز", "المجموع", "الحاصل", "تعديل المركز", "تعديل القمر",
-        "المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس", "تقويم القمر",
+        *syams_gerhana(fathur, True),
         "تعديل القمر", "دقائق تعديل الأيام", "الباقي", "حصة الساعة", "ساعات البعد",
         "العلامة", "ساعات البعد", "الاستقبال بالمركز", "الحصة", "دقائق الحصة", "حصة الساعة", "ساعات الحصة",
         "الاستقبال", "الاستقبال المعدل", "فضل الطولين", "وسط الخسوف ببلد",
@@ -267,19 +284,20 @@ def khusuf_sullam(akhir="الأوج"):
     return f
 
 
-def kusuf_sullam(akhir="الأوج"):
+def kusuf_sullam(fathur=False):
     """Sullam al-Nairoin's solar eclipse: a grid of 47 rows by 40; the run writes its right
-    block at column 37, the place's rows at 19 and the double look-ups at 9. Syamsu al-Hilal's
-    is the same sheet with the Wasath in the last cell of the top rows."""
+    block at column 37, the place's rows at 19 and the double look-ups at 9. With fathur, the
+    same sheet for a book of Fathu's pattern."""
     f = []
 
     def label(teks, baris, k1, k2=None):
-        f.append((teks, baris, k1, k1 if k2 is None else k2))
+        if teks is not None:
+            f.append((teks, baris, k1, k1 if k2 is None else k2))
 
-    kepalaJumlah(label, ["العلامة", "الحصة", "الخاصة", "المركز", akhir])
+    kepalaJumlah(label, UNSUR_FATHUR if fathur else UNSUR_SULLAM)
     kanan = [
         "تعديل الخاصة", "تعديل المركز", "المجموع", "الحاصل", "تعديل المركز", "تعديل القمر",
-        "المركز", "الأوج", "وسط الشمس", "تعديل القمر", "تقويم الشمس",
+        *syams_gerhana(fathur, False),
         "تعديل القمر", "دقائق تعديل الأيام", "الباقي", "حصة الساعة", "ساعات البعد",
         "العلامة", "ساعات البعد", "الاجتماع بالمركز", "فضل الطولين", "الاجتماع ببلد",
         "ساعات البعد", "الحاصل", "تعديل المركز", "المجموع", "الحصة", "المجموع", "الحصة المعدلة",
@@ -412,9 +430,10 @@ def main():
         "SNGB": khusuf_sullam(),
         "SNGM": kusuf_sullam(),
         "SNTK": koreksi_kusuf(),
-        "SHGB": khusuf_sullam("الوسط"),
-        "SHGM": kusuf_sullam("الوسط"),
-        "SHTK": koreksi_kusuf(),
+        # Syamsu al-Hilal's eclipses write their decimals on the same sheets, in Fathu's order.
+        **{kitab + jenis: buat for kitab in ("FR", "TZ", "IDB1", "FK", "SH")
+           for jenis, buat in (("GB", khusuf_sullam(fathur=True)), ("GM", kusuf_sullam(fathur=True)),
+                               ("TK", koreksi_kusuf()))},
         "BM": tahqiqi(HASIL_BM),
         "NA": tahqiqi(HASIL_NA),
         "ER": ephemeris(),

@@ -1,12 +1,14 @@
 #include "eclipse/lunar/KerangkaKhusuf.h"
 
 #include <string>
+#include <utility>
 
 #include "conclusions/Kesimpulan.h"
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "core/Sesi.h"
+#include "eclipse/LangkahGerhana.h"
 #include "methods/LangkahTaqribi.h"
 #include "methods/Lembar.h"
 #include "methods/Taadil.h"
@@ -14,29 +16,11 @@
 
 namespace falak {
 
+using namespace gerhana;
+
 namespace {
 
 constexpr int kLangkah = 10;  // steps of the progress bar
-
-Nilai busur(int64_t b, int64_t d, int64_t m, int64_t s = 0) { return DlorbuSittin(b, d, m, s, 0, 1, ModusBuruj); }
-
-Nilai tambah(const Nilai& a, const Nilai& b) { return TambahNilai(JenisBusur, TandaIkut, ModusBuruj, a, b); }
-Nilai kurang(const Nilai& a, const Nilai& b) { return KurangNilai(JenisBusur, TandaIkut, ModusBuruj, a, b); }
-Nilai kali(const Nilai& a, const Nilai& b) { return KaliNilai(JenisBusur, TandaIkut, ModusBuruj, a, b).value_or(Nilai()); }
-Nilai tambahAlamah(const Nilai& a, const Nilai& b) { return TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, a, b); }
-Nilai kurangAlamah(const Nilai& a, const Nilai& b) { return KurangNilai(JenisAlamah, TandaIkut, ModusBuruj, a, b); }
-
-bool burujSebelumSimpul(const Nilai& v) {
-    const int b = AmbilTingkat(v, MedanBuruj);
-    return b == 5 || b == 11;
-}
-
-Nilai alamahNol() { return AlamahTarkh(JenisAlamah, MedanAlamah{}, 1); }
-
-// A time of the alamah clock (hours from sunset) as the civil clock reads it.
-Nilai jamSipil(const Nilai& alamah) {
-    return tambahAlamah(alamah, AlamahTarkh(JenisAlamah, MedanAlamah{0, 0, 0, 0, 0, 18, 0, 0, 0}, 1));
-}
 
 // The colour follows how much of the disc is covered: at most the whole of it, twelve fingers,
 // however deep the moon stands in the shadow.
@@ -44,17 +28,25 @@ Nilai ditutup(const Nilai& ashobi) {
     return AmbilTingkat(ashobi, MedanDarojah) >= 12 ? busur(0, 12, 0) : ashobi;
 }
 
-double jamDesimal(const Nilai& alamah) {
-    return AmbilTingkat(alamah, MedanJam) + AmbilTingkat(alamah, MedanMenit) / 60.0 +
-           AmbilTingkat(alamah, MedanDetik) / 3600.0;
-}
-
 }  // namespace
 
-KerangkaKhusuf::KerangkaKhusuf(Konteks k, const DataKhusuf& data)
+KerangkaKhusuf::KerangkaKhusuf(Konteks k, const DataGerhana& data)
     : k_(k), data_(data), fathur_(std::make_unique<FathurRouf>(k)) {}
 
 KerangkaKhusuf::~KerangkaKhusuf() = default;
+
+const Nilai& KerangkaKhusuf::khossyoh() const { return HsJumlah(static_cast<size_t>(data_.khossyoh)); }
+
+KhusufPolaFathu::KhusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok)
+    : KerangkaKhusuf(k, data), pokok_(std::move(pokok)) {}
+
+void KhusufPolaFathu::PokokKhusuf(int32_t tahun, int16_t bulan) {
+    HsBulan = bulan;
+    const TahunTerbagi t =
+        pokok_.hitung(k_, tahun, bulan, true, {HsMajmu.semua(), HsMabsut.semua(), HsSyahr.semua(), HsJumlah.semua()});
+    HsDawr = t.dawr;
+    HsSisaTahun = t.sisa;
+}
 
 bool KerangkaKhusuf::UjiHishshoh(const Nilai& hishshoh) {
     const int b = AmbilTingkat(hishshoh, MedanBuruj);
@@ -73,31 +65,16 @@ bool KerangkaKhusuf::UjiMalam(const Nilai& awal, const Nilai& akhir) {
 
 void KerangkaKhusuf::TaadilKhusuf() {
     ClsTaadil& t = k_.taadil;
-    t.TaadilBaris(HsTdlKs.semua(), 1, HsJumlah(3), 1, false);
-    t.TaadilBaris(HsTdlMr.semua(), 2, HsJumlah(4), 1, false);
+    t.TaadilBaris(HsTdlKs.semua(), 1, khossyoh(), 1, false);
+    t.TaadilBaris(HsTdlMr.semua(), 2, HsJumlah(static_cast<size_t>(data_.markaz)), 1, false);
     t.TaadilBaris(HsTdlAr.semua(), 3, HsJumlah(2), 1, false);
-    t.TaadilBaris(HsTdlHs.semua(), kodeTdlHs(), HsJumlah(3), 5, false);
+    t.TaadilBaris(HsTdlHs.semua(), data_.kodeTdlHs, khossyoh(), 5, false);
 }
 
 void KerangkaKhusuf::QomarKhusuf() {
-    HsQomar(1) = HsTdlKs(5);
-    HsQomar(2) = HsTdlMr(5);
-    HsQomar(3) = tambah(HsQomar(1), HsQomar(2));
-    HsQomar(4) = kali(HsQomar(3), busur(0, 0, 5));
-    HsQomar(5) = HsTdlMr(5);
-    HsQomar(6) = tambah(HsQomar(4), HsQomar(5));
-    hitungSyams();
-    k_.taadil.TaadilBaris(HsTdlDq.semua(), 5, HsSyams(5), 5, false);
-}
-
-void KerangkaKhusuf::hitungSyams() {
-    HsSyams(1) = HsJumlah(4);
-    HsSyams(2) = HsJumlah(5);
-    HsSyams(3) = tambah(HsSyams(1), HsSyams(2));
-    HsSyams(4) = HsQomar(6);
-    HsSyams(5) = kurang(HsSyams(3), HsSyams(4));
-    // The moon stands opposite the sun.
-    HsSyams(6) = tambah(HsSyams(5), busur(6, 0, 0));
+    HitungQomar(HsQomar.semua(), HsTdlKs(5), HsTdlMr(5));
+    selMatahari_ = HitungSyams(HsSyams.semua(), HsJumlah.semua(), HsQomar(6), data_, true);
+    k_.taadil.TaadilBaris(HsTdlDq.semua(), 5, HsSyams(selMatahari_), 5, false);
 }
 
 void KerangkaKhusuf::IstiqbalKhusuf() {
@@ -119,21 +96,10 @@ void KerangkaKhusuf::IstiqbalKhusuf() {
     HsIstiqbal(11) = tambahAlamah(HsIstiqbal(9), HsIstiqbal(10));
 }
 
-void KerangkaKhusuf::ArdlKhusuf() {
-    HsArdl(1) = HsSaah(5);
-    HsArdl(2) = kali(HsArdl(1), busur(0, 0, 2, 30));
-    HsArdl(3) = HsTdlMr(5);
-    HsArdl(4) = tambah(HsArdl(2), HsArdl(3));
-    HsArdl(5) = HsJumlah(2);
-    HsArdl(6) = HsArdl(4);
-    HsArdl(7) = kurang(HsArdl(5), HsArdl(6));
-}
+void KerangkaKhusuf::ArdlKhusuf() { HitungArdl(HsArdl.semua(), HsSaah(5), HsTdlMr(5), HsJumlah(2)); }
 
 void KerangkaKhusuf::BuhtuKhusuf() {
-    HsBuhtu(1) = HsSaah(5);
-    HsBuhtu(2) = kali(HsBuhtu(1), busur(0, 0, 43));
-    HsBuhtu(3) = HsJumlah(3);
-    HsBuhtu(4) = kurang(HsBuhtu(3), HsBuhtu(2));
+    HitungBuhtu(HsBuhtu.semua(), HsSaah(5), khossyoh());
     ClsTaadil& t = k_.taadil;
     t.TaadilBaris(HsTdlBuhtu.semua(), 22, HsBuhtu(4), 5, false);
     t.TaadilBaris(HsTdlHs2.semua(), burujSebelumSimpul(HsArdl(7)) ? 24 : 23, HsArdl(7), 12, false);

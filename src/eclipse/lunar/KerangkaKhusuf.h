@@ -19,6 +19,7 @@
 #include <memory>
 #include <optional>
 
+#include "eclipse/LangkahGerhana.h"
 #include "methods/Baris.h"
 #include "methods/Konteks.h"
 #include "methods/Modul.h"
@@ -27,12 +28,6 @@ namespace falak {
 
 class ClsFlexGrid;
 class FathurRouf;
-
-// The constants and choices that tell one book's lunar eclipse from another's.
-struct DataKhusuf {
-    const char* kode;              // the book's frame columns: Nama<kode>GB ...
-    int bujurDerajat, bujurMenit;  // the markaz's longitude in the place correction
-};
 
 class KerangkaKhusuf : public Modul {
 public:
@@ -74,16 +69,12 @@ public:
     int16_t HsBulan = 0;
 
 protected:
-    KerangkaKhusuf(Konteks k, const DataKhusuf& data);
+    KerangkaKhusuf(Konteks k, const DataGerhana& data);
 
     // The stages from the ta'dil to the phases; false when the month turns out to hold no
     // eclipse after all. A book that reckons in decimals works them its own way and leaves
     // its results in these rows.
     virtual bool TahapKhusuf();
-    // The sun's place at the full moon in HsSyams: Sullam's from the Markaz and the auj.
-    virtual void hitungSyams();
-    // The table of the hours per degree.
-    virtual int kodeTdlHs() const { return 4; }
 
     Konteks k_;
 
@@ -95,8 +86,24 @@ private:
     // The first of the month from Fathu al-Ro'uf's reckoning of the month before.
     std::optional<Nilai> awalBulan(int32_t tahun, int16_t bulan);
 
-    const DataKhusuf& data_;
+    const Nilai& khossyoh() const;
+
+    const DataGerhana& data_;
+    size_t selMatahari_ = 5;  // the cell of HsSyams that holds the sun's place
     std::unique_ptr<FathurRouf> fathur_;
+};
+
+// The lunar eclipse of a book of Fathu al-Ro'uf's pattern: the skeleton on the book's rows of
+// years and its month table's full-moon columns.
+class KhusufPolaFathu : public KerangkaKhusuf {
+public:
+    void PokokKhusuf(int32_t tahun, int16_t bulan) override;
+
+protected:
+    KhusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok);
+
+private:
+    PokokFathu pokok_;
 };
 
 }  // namespace falak

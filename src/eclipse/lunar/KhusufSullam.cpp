@@ -7,7 +7,7 @@ namespace falak {
 
 namespace {
 
-const DataKhusuf kKhusufSullam = {"SN", 106, 52};
+const DataGerhana kKhusufSullam = {"SN", 106, 52, 0, 3, 4, 4};
 
 }  // namespace
 

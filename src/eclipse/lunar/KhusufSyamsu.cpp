@@ -13,7 +13,7 @@ namespace falak {
 
 namespace {
 
-const DataKhusuf kKhusufSyamsu = {"SH", 110, 40};
+const DataGerhana kKhusufSyamsu = {"SH", 110, 40, 3, 4, 5, 4};
 
 constexpr float kDetikSimpul = 12.0f / 3600;  // twelve seconds of time for each degree from the node
 constexpr float kFaktorArdl = 0.042f;         // the Hishshoh's motion for each hour of the correction
@@ -70,10 +70,10 @@ bool KhusufSyamsu::TahapKhusuf() {
     HsTdlDq(5) = NilaiSH(s.SHTdlMuqowwam);
     for (size_t i = 1; i <= 3; ++i) HsQomar(i) = NilaiSH(s.SHQomar(i));
     for (size_t i = 4; i <= 6; ++i) HsQomar(i) = NilaiSH(s.SHQomar(i + 1));
-    HsSyams(3) = NilaiSH(s.SHJumlah(4));
-    HsSyams(4) = NilaiSH(s.SHBud(1));
-    HsSyams(5) = NilaiSH(s.SHBud(2));
-    HsSyams(6) = NilaiSH(PutarSH(s.SHBud(2) + 180.0f));
+    HsSyams(1) = NilaiSH(s.SHJumlah(4));
+    HsSyams(2) = NilaiSH(s.SHBud(1));
+    HsSyams(3) = NilaiSH(s.SHBud(2));
+    HsSyams(4) = NilaiSH(PutarSH(s.SHBud(2) + 180.0f));
     for (size_t i = 1; i <= 5; ++i) HsSaah(i) = NilaiSH(s.SHSaah(i));
     istiqbal();
     k_.kemajuan.langkah();

@@ -1,12 +1,14 @@
 #include "eclipse/solar/KerangkaKusuf.h"
 
 #include <string>
+#include <utility>
 
 #include "conclusions/Kesimpulan.h"
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
 #include "core/Sesi.h"
+#include "eclipse/LangkahGerhana.h"
 #include "methods/LangkahTaqribi.h"
 #include "methods/Lembar.h"
 #include "methods/Taadil.h"
@@ -14,35 +16,11 @@
 
 namespace falak {
 
+using namespace gerhana;
+
 namespace {
 
 constexpr int kLangkah = 12;  // steps of the progress bar
-
-Nilai busur(int64_t b, int64_t d, int64_t m, int64_t s = 0) { return DlorbuSittin(b, d, m, s, 0, 1, ModusBuruj); }
-
-Nilai tambah(const Nilai& a, const Nilai& b) { return TambahNilai(JenisBusur, TandaIkut, ModusBuruj, a, b); }
-Nilai kurang(const Nilai& a, const Nilai& b) { return KurangNilai(JenisBusur, TandaIkut, ModusBuruj, a, b); }
-Nilai kali(const Nilai& a, const Nilai& b, int modus = ModusBuruj) {
-    return KaliNilai(JenisBusur, TandaIkut, modus, a, b).value_or(Nilai());
-}
-Nilai tambahAlamah(const Nilai& a, const Nilai& b) { return TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, a, b); }
-Nilai kurangAlamah(const Nilai& a, const Nilai& b) { return KurangNilai(JenisAlamah, TandaIkut, ModusBuruj, a, b); }
-
-bool burujSebelumSimpul(const Nilai& v) {
-    const int b = AmbilTingkat(v, MedanBuruj);
-    return b == 5 || b == 11;
-}
-
-Nilai alamahNol() { return AlamahTarkh(JenisAlamah, MedanAlamah{}, 1); }
-
-Nilai jamSipil(const Nilai& alamah) {
-    return tambahAlamah(alamah, AlamahTarkh(JenisAlamah, MedanAlamah{0, 0, 0, 0, 0, 18, 0, 0, 0}, 1));
-}
-
-double jamDesimal(const Nilai& alamah) {
-    return AmbilTingkat(alamah, MedanJam) + AmbilTingkat(alamah, MedanMenit) / 60.0 +
-           AmbilTingkat(alamah, MedanDetik) / 3600.0;
-}
 
 }  // namespace
 
@@ -52,7 +30,22 @@ std::optional<std::string> PeriksaLintang(const Tempat& tempat) {
     return std::nullopt;
 }
 
-KerangkaKusuf::KerangkaKusuf(Konteks k, const DataKusuf& data) : k_(k), data_(data) {}
+KerangkaKusuf::KerangkaKusuf(Konteks k, const DataGerhana& data) : k_(k), data_(data) {}
+
+const Nilai& KerangkaKusuf::khossyoh() const { return KfJumlah(static_cast<size_t>(data_.khossyoh)); }
+
+const Nilai& KerangkaKusuf::matahari() const { return KfSyams(selMatahari_); }
+
+KusufPolaFathu::KusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok)
+    : KerangkaKusuf(k, data), pokok_(std::move(pokok)) {}
+
+void KusufPolaFathu::PokokKusuf(int32_t tahun, int16_t bulan) {
+    KfBulan = bulan;
+    const TahunTerbagi t =
+        pokok_.hitung(k_, tahun, bulan, false, {KfMajmu.semua(), KfMabsut.semua(), KfSyahr.semua(), KfJumlah.semua()});
+    KfDawr = t.dawr;
+    KfSisaTahun = t.sisa;
+}
 
 bool KerangkaKusuf::UjiHishshoh(const Nilai& hishshoh) {
     const int b = AmbilTingkat(hishshoh, MedanBuruj);
@@ -67,28 +60,15 @@ bool KerangkaKusuf::UjiSiang(const Nilai& ijtima) {
 
 void KerangkaKusuf::TaadilKusuf() {
     ClsTaadil& t = k_.taadil;
-    t.TaadilBaris(KfTdlKs.semua(), 1, KfJumlah(3), 1, false);
-    t.TaadilBaris(KfTdlMr.semua(), 2, KfJumlah(4), 1, false);
-    t.TaadilBaris(KfTdlHs.semua(), kodeTdlHs(), KfJumlah(3), 5, false);
+    t.TaadilBaris(KfTdlKs.semua(), 1, khossyoh(), 1, false);
+    t.TaadilBaris(KfTdlMr.semua(), 2, KfJumlah(static_cast<size_t>(data_.markaz)), 1, false);
+    t.TaadilBaris(KfTdlHs.semua(), data_.kodeTdlHs, khossyoh(), 5, false);
 }
 
 void KerangkaKusuf::QomarKusuf() {
-    KfQomar(1) = KfTdlKs(5);
-    KfQomar(2) = KfTdlMr(5);
-    KfQomar(3) = tambah(KfQomar(1), KfQomar(2));
-    KfQomar(4) = kali(KfQomar(3), busur(0, 0, 5));
-    KfQomar(5) = KfTdlMr(5);
-    KfQomar(6) = tambah(KfQomar(4), KfQomar(5));
-    hitungSyams();
-    k_.taadil.TaadilBaris(KfTdlDq.semua(), 5, KfSyams(5), 5, false);
-}
-
-void KerangkaKusuf::hitungSyams() {
-    KfSyams(1) = KfJumlah(4);
-    KfSyams(2) = KfJumlah(5);
-    KfSyams(3) = tambah(KfSyams(1), KfSyams(2));
-    KfSyams(4) = KfQomar(6);
-    KfSyams(5) = kurang(KfSyams(3), KfSyams(4));
+    HitungQomar(KfQomar.semua(), KfTdlKs(5), KfTdlMr(5));
+    selMatahari_ = HitungSyams(KfSyams.semua(), KfJumlah.semua(), KfQomar(6), data_, false);
+    k_.taadil.TaadilBaris(KfTdlDq.semua(), 5, matahari(), 5, false);
 }
 
 void KerangkaKusuf::IjtimaKusuf() {
@@ -100,22 +80,9 @@ void KerangkaKusuf::IjtimaKusuf() {
     KfIjtima(5) = tambahAlamah(KfIjtima(3), KfIjtima(4));
 }
 
-void KerangkaKusuf::ArdlKusuf() {
-    KfArdl(1) = KfSaah(5);
-    KfArdl(2) = kali(KfArdl(1), busur(0, 0, 2, 30));
-    KfArdl(3) = KfTdlMr(5);
-    KfArdl(4) = tambah(KfArdl(2), KfArdl(3));
-    KfArdl(5) = KfJumlah(2);
-    KfArdl(6) = KfArdl(4);
-    KfArdl(7) = kurang(KfArdl(5), KfArdl(6));
-}
+void KerangkaKusuf::ArdlKusuf() { HitungArdl(KfArdl.semua(), KfSaah(5), KfTdlMr(5), KfJumlah(2)); }
 
-void KerangkaKusuf::BuhtuKusuf() {
-    KfBuhtu(1) = KfSaah(5);
-    KfBuhtu(2) = kali(KfBuhtu(1), busur(0, 0, 43));
-    KfBuhtu(3) = KfJumlah(3);
-    KfBuhtu(4) = kurang(KfBuhtu(3), KfBuhtu(2));
-}
+void KerangkaKusuf::BuhtuKusuf() { HitungBuhtu(KfBuhtu.semua(), KfSaah(5), khossyoh()); }
 
 void KerangkaKusuf::IqlimBaris(const Nilai& nilai, std::span<Nilai, 3> baris, std::span<Nilai, 5> mel,
                                std::span<Nilai, 5> iqlim, std::span<Nilai, 5> thul) {
@@ -136,9 +103,9 @@ void KerangkaKusuf::MatholiKusuf() {
     KfSore = NilaiDesimal(JenisBusur, KfFadlu(2)) > 18.0;
     KfFadlu(3) = KfSore ? GantiTanda(kurang(KfFadlu(2), KfFadlu(1)), "0") : kurang(KfFadlu(1), KfFadlu(2));
     KfFadlu(4) = kali(busur(0, 15, 0), KfFadlu(3));
-    KfFadlu(5) = KfSyams(5);
+    KfFadlu(5) = matahari();
     KfFadlu(6) = kurang(KfFadlu(5), KfFadlu(4));
-    t.TaadilBaris(KfMatholi.semua(), 16, KfSyams(5), 1, false);
+    t.TaadilBaris(KfMatholi.semua(), 16, matahari(), 1, false);
     KfFadlu(7) = KfFadlu(4);
     KfFadlu(8) = KurangNilai(JenisBusur, TandaIkut, ModusLingkaran, KfMatholi(5), KfFadlu(4));
     t.TaadilBaris(KfMatholi2.semua(), 32, KfFadlu(8), 1, false);
@@ -148,7 +115,7 @@ void KerangkaKusuf::MatholiKusuf() {
 void KerangkaKusuf::MarkazKusuf() {
     ClsTaadil& t = k_.taadil;
     const Tempat& tempat = k_.sesi.tempat;
-    KfBud(1) = KfSyams(5);
+    KfBud(1) = matahari();
     KfBud(2) = KfMatholi2(5);
     KfBud(3) = kurang(KfBud(1), KfBud(2));
     t.TaadilBaris(KfJaib.semua(), 40, KfBud(3), 1, false);
@@ -176,7 +143,7 @@ void KerangkaKusuf::MarkazKusuf() {
         KfDlil(3) = kurang(KfDlil(1), KfDlil(2));
     }
     KfDlil(4) = kali(busur(0, 15, 0), KfDlil(3));
-    KfDlil(5) = KfSyams(5);
+    KfDlil(5) = matahari();
     KfDlil(6) = kurang(KfDlil(5), KfDlil(4));
     IqlimBaris(KfDlil(6), KfMail2.semua(), KfMel2.semua(), KfIqlim2.semua(), KfThul2.semua());
 
@@ -201,7 +168,11 @@ void KerangkaKusuf::MarkazKusuf() {
 bool KerangkaKusuf::UkuranKusuf() {
     ClsTaadil& t = k_.taadil;
     k_.taadil.TaadilBaris(KfTdlBuhtu.semua(), 22, KfBuhtu(4), 5, false);
-    if (!t.TaadilKusfGanda(KfAshobi.semua(), 35, KfTdlBuhtu(5), KfJumlahArdl(1))) return false;
+    // The latitude seen from the place beyond the table, or at its very edge where the table
+    // gives no finger: the place sees no eclipse.
+    if (!t.TaadilKusfGanda(KfAshobi.semua(), 35, KfTdlBuhtu(5), KfJumlahArdl(1)) ||
+        NilaiDesimal(JenisBusur, KfAshobi(11)) <= 0.0)
+        return false;
     t.TaadilKusfGanda(KfSaatKusf.semua(), 36, KfTdlBuhtu(5), KfJumlahArdl(1));
     t.TaadilKusfGanda(KfMuktsu.semua(), 37, KfTdlBuhtu(5), KfJumlahArdl(1));
 

@@ -16,6 +16,7 @@
 #include <optional>
 #include <string>
 
+#include "eclipse/LangkahGerhana.h"
 #include "methods/Baris.h"
 #include "methods/Konteks.h"
 #include "methods/Modul.h"
@@ -24,11 +25,6 @@ namespace falak {
 
 class ClsFlexGrid;
 struct Tempat;
-
-struct DataKusuf {
-    const char* kode;              // the book's frame columns: Nama<kode>GM ...
-    int bujurDerajat, bujurMenit;  // the markaz's longitude in the place correction
-};
 
 // The refusal of a place whose latitude the solar tables do not hold: degrees 5 or less, or 9
 // or more. Empty when the place can be reckoned.
@@ -47,7 +43,8 @@ public:
     void BuhtuKusuf();
     void MatholiKusuf();
     void MarkazKusuf();
-    // False when the place sees no eclipse (the latitude lies beyond the double table).
+    // False when the place sees no eclipse (the latitude lies beyond the double table, or the
+    // table gives it no finger).
     bool UkuranKusuf();
     // The partial and total phases about the middle KfFase(1), from the half duration
     // KfSaatKusf(11) and the half totality KfMuktsu(11) (none when zero).
@@ -89,14 +86,12 @@ public:
     int16_t KfBulan = 0;
 
 protected:
-    KerangkaKusuf(Konteks k, const DataKusuf& data);
+    KerangkaKusuf(Konteks k, const DataGerhana& data);
 
     // The stages after the first test, with the second and third tests, up to the phases;
     // false when a test fails or the place sees no eclipse. A book that reckons in decimals
     // works them its own way and leaves its results in these rows.
     virtual bool TahapKusuf();
-    virtual void hitungSyams();
-    virtual int kodeTdlHs() const { return 4; }
 
     Konteks k_;
 
@@ -106,7 +101,25 @@ private:
     void TabelKoreksiKusuf(ClsFlexGrid& g);
     std::vector<BarisTercatat> baris() const;
 
-    const DataKusuf& data_;
+    const Nilai& khossyoh() const;
+    // The sun's place at the ijtima'.
+    const Nilai& matahari() const;
+
+    const DataGerhana& data_;
+    size_t selMatahari_ = 5;  // the cell of KfSyams that holds the sun's place
+};
+
+// The solar eclipse of a book of Fathu al-Ro'uf's pattern: the skeleton on the book's rows of
+// years and its month table.
+class KusufPolaFathu : public KerangkaKusuf {
+public:
+    void PokokKusuf(int32_t tahun, int16_t bulan) override;
+
+protected:
+    KusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok);
+
+private:
+    PokokFathu pokok_;
 };
 
 }  // namespace falak

@@ -6,7 +6,7 @@ namespace falak {
 
 namespace {
 
-const DataKusuf kKusufSullam = {"SN", 106, 52};
+const DataGerhana kKusufSullam = {"SN", 106, 52, 0, 3, 4, 4};
 
 }  // namespace
 

@@ -14,7 +14,7 @@ namespace falak {
 
 namespace {
 
-const DataKusuf kKusufSyamsu = {"SH", 110, 40};
+const DataGerhana kKusufSyamsu = {"SH", 110, 40, 3, 4, 5, 4};
 
 constexpr float kFaktorArdl = 0.042f;   // the Hishshoh's motion for each hour of the correction
 constexpr float kFaktorBuhtu = 0.717f;  // the Khossyoh's, 43 minutes an hour
@@ -67,9 +67,9 @@ bool KusufSyamsu::TahapKusuf() {
     KfTdlDq(5) = NilaiSH(s.SHTdlMuqowwam);
     for (size_t i = 1; i <= 3; ++i) KfQomar(i) = NilaiSH(s.SHQomar(i));
     for (size_t i = 4; i <= 6; ++i) KfQomar(i) = NilaiSH(s.SHQomar(i + 1));
-    KfSyams(3) = NilaiSH(s.SHJumlah(4));
-    KfSyams(4) = NilaiSH(s.SHBud(1));
-    KfSyams(5) = NilaiSH(s.SHBud(2));
+    KfSyams(1) = NilaiSH(s.SHJumlah(4));
+    KfSyams(2) = NilaiSH(s.SHBud(1));
+    KfSyams(3) = NilaiSH(s.SHBud(2));
     for (size_t i = 1; i <= 5; ++i) KfSaah(i) = NilaiSH(s.SHSaah(i));
     KfIjtima(1) = AlamahSH(s.SHJumlah(1), s.SHJumlah(2));
     KfIjtima(2) = NilaiSH(s.SHSaah(5));

@@ -41,14 +41,17 @@ IttifaqDzatilBain::IttifaqDzatilBain(Konteks k) : IttifaqDzatilBain(k, kIttifaqD
 
 IttifaqDzatilBain::IttifaqDzatilBain(Konteks k, const DataKitabFR& data) : KerangkaTaqribi(k, data) {}
 
-Nilai IttifaqDzatilBain::alamahSyahr(const Tabel& syahru) const {
-    auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, kolom); };
+std::optional<Nilai> AlamahSyahrMasehi(const Tabel& syahru, std::string_view akhiran) {
+    auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, std::string(kolom) + std::string(akhiran)); };
     // The date fields are days counted in months of 30: kept as the table gives them (a month
     // row of no days must not be finished into a month before month 0).
     return AlamahTarkh(-1, {sel("mshTh"), sel("mshBln"), sel("mshTgl"), sel("Pasaran"), sel("alHari"), sel("alSah"),
                            sel("alQoh"), "0", "0"},
-                       1)
-        .value_or(Syahr(1));
+                       1);
+}
+
+std::optional<Nilai> IttifaqDzatilBain::alamahSyahr(const Tabel& syahru, std::string_view akhiran) const {
+    return AlamahSyahrMasehi(syahru, akhiran);
 }
 
 void IttifaqDzatilBain::IjtimaFR() {

@@ -12,6 +12,9 @@
 
 namespace falak {
 
+// The month row's alamah with the Masehi days of the month (mshTh, mshBln, mshTgl, Pasaran).
+std::optional<Nilai> AlamahSyahrMasehi(const Tabel& syahru, std::string_view akhiran);
+
 class IttifaqDzatilBain : public KerangkaTaqribi {
 public:
     explicit IttifaqDzatilBain(Konteks k);
@@ -29,7 +32,7 @@ public:
 protected:
     IttifaqDzatilBain(Konteks k, const DataKitabFR& data);
 
-    Nilai alamahSyahr(const Tabel& syahru) const override;
+    std::optional<Nilai> alamahSyahr(const Tabel& syahru, std::string_view akhiran) const override;
     Nilai hariIjtima() override;
     void tulisSelTambahan(ClsFlexGrid& g) override;
     void catatTambahan(std::vector<BarisTercatat>& baris) const override;

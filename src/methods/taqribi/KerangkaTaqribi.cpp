@@ -35,75 +35,95 @@ constexpr SlotUnsur kSlot[] = {{&LetakUnsur::hishshoh, 2, "hs"},
 
 KerangkaTaqribi::KerangkaTaqribi(Konteks k, const DataKitabFR& data) : k_(k), data_(data) {}
 
-void KerangkaTaqribi::PokokFR(int32_t tahun, int16_t bulan) {
-    Bulan = bulan;
-    const PembagiTahun& p = data_.pembagi;
+TahunTerbagi BagiTahunFR(const PembagiTahun& p, int32_t tahun) {
+    using enum TahunTerbagi::Langkah;
     const int32_t Y = tahun - 1;
-    enum class Langkah { Tambah, Nol, Kurang } langkah;
-    int32_t sisa;
     if (Y > p.atas) {
-        Dawr = (Y + p.geser) / p.g;
-        Pengali = Dawr;
-        sisa = (Y + p.geser) % p.g;
-        langkah = Langkah::Tambah;
-    } else if (Y > p.bawah) {
-        Dawr = 0;
-        Pengali = 1;
-        sisa = Y + p.geser;
-        langkah = Langkah::Nol;
-    } else {
-        Dawr = (Y - p.mundur) / p.g;
-        Pengali = std::abs(Dawr);
-        sisa = Y - p.g * Dawr + p.geser;
-        langkah = Langkah::Kurang;
-        if (sisa == p.g) {
-            Dawr += 1;
-            Pengali -= 1;
-            sisa = 0;
-        }
+        const int32_t dawr = (Y + p.geser) / p.g;
+        return {dawr, dawr, static_cast<int16_t>((Y + p.geser) % p.g), Tambah};
     }
-    SisaTahun = static_cast<int16_t>(sisa);
-
-    const size_t n = static_cast<size_t>(data_.jumlahSel);
-    std::array<Nilai, 5> mabda, tambah;
-    for (size_t i = 0; i < n; ++i) {
-        mabda[i] = Nilai(data_.mabda[i]);
-        switch (langkah) {
-            case Langkah::Tambah: tambah[i] = Nilai(data_.tambah[i]); break;
-            case Langkah::Kurang: tambah[i] = Nilai(data_.kurang[i]); break;
-            case Langkah::Nol: tambah[i] = i == 0 ? Nilai("000 00 00 00 00 00 00 00 00 1") : Nilai("00 00 00 00 00 1");
-        }
+    if (Y > p.bawah) return {0, 1, static_cast<int16_t>(Y + p.geser), Nol};
+    TahunTerbagi t{(Y - p.mundur) / p.g, 0, 0, Kurang};
+    t.pengali = std::abs(t.dawr);
+    int32_t sisa = Y - p.g * t.dawr + p.geser;
+    if (sisa == p.g) {
+        t.dawr += 1;
+        t.pengali -= 1;
+        sisa = 0;
     }
-    HitungMajmuah(Majmu.semua().first(n), std::span<const Nilai>(mabda).first(n),
-                  std::span<const Nilai>(tambah).first(n), Pengali, 0, 1);
-
-    std::array<Nilai, 5> mabsut;
-    HitungMabsuthah(mabsut, SisaTahun, false, false, false, false);
-    Mabsut(1) = mabsut[0];
-
-    Tabel& syahru = k_.koneksi.TRBSyahru;
-    const bool adaSyahr = syahru.cari("Cari", bulan);
-    if (adaSyahr) Syahr(1) = alamahSyahr(syahru);
-    for (const SlotUnsur& s : kSlot) {
-        const int sel = data_.unsur.*s.unsur;
-        if (sel == 0) continue;
-        Mabsut(static_cast<size_t>(sel)) = mabsut[s.slot - 1];
-        if (adaSyahr) {
-            const std::string k = s.kolom;
-            isi(Syahr(static_cast<size_t>(sel)), DlorbuSittin(BacaTeks(syahru, k + "Brj"), BacaTeks(syahru, k + "Jah"),
-                                                              BacaTeks(syahru, k + "Qoh"), "0", "0", 1, ModusBuruj));
-        }
-    }
-
-    Jumlah(1) = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, Majmu(1), Mabsut(1), Syahr(1));
-    for (size_t i = 2; i <= n; ++i)
-        Jumlah(i) = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, Majmu(i), Mabsut(i), Syahr(i));
+    t.sisa = static_cast<int16_t>(sisa);
+    return t;
 }
 
-Nilai KerangkaTaqribi::alamahSyahr(const Tabel& syahru) const {
-    auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, kolom); };
-    return AlamahTarkh(JenisAlamah, {"0", "0", "0", "0", sel("alHari"), sel("alSah"), sel("alQoh"), "0", "0"}, 1)
-        .value_or(Syahr(1));
+void BulanDibuka(int32_t& tahun, int16_t& bulan) {
+    if (bulan >= 12) {
+        tahun += 1;
+        bulan = 1;
+    } else {
+        bulan = static_cast<int16_t>(bulan + 1);
+    }
+}
+
+std::optional<Nilai> AlamahSyahrFR(const Tabel& syahru, std::string_view akhiran) {
+    auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, std::string(kolom) + std::string(akhiran)); };
+    return AlamahTarkh(JenisAlamah, {"0", "0", "0", "0", sel("alHari"), sel("alSah"), sel("alQoh"), "0", "0"}, 1);
+}
+
+TahunTerbagi HitungPokokFR(Konteks& k, const DataKitabFR& data, int32_t tahun, int16_t bulan, std::string_view akhiran,
+                           const BacaAlamahSyahr& alamahSyahr, const BarisPokok& r) {
+    using enum TahunTerbagi::Langkah;
+    const TahunTerbagi t = BagiTahunFR(data.pembagi, tahun);
+    const size_t n = static_cast<size_t>(data.jumlahSel);
+    std::array<Nilai, 5> mabda, tambah;
+    for (size_t i = 0; i < n; ++i) {
+        mabda[i] = Nilai(data.mabda[i]);
+        switch (t.langkah) {
+            case Tambah: tambah[i] = Nilai(data.tambah[i]); break;
+            case Kurang: tambah[i] = Nilai(data.kurang[i]); break;
+            case Nol: tambah[i] = i == 0 ? Nilai("000 00 00 00 00 00 00 00 00 1") : Nilai("00 00 00 00 00 1");
+        }
+    }
+    HitungMajmuah(r.majmu.first(n), std::span<const Nilai>(mabda).first(n), std::span<const Nilai>(tambah).first(n),
+                  t.pengali, 0, 1);
+
+    std::array<Nilai, 5> mabsut;
+    HitungMabsuthah(mabsut, t.sisa, false, false, false, false);
+    r.mabsut[0] = mabsut[0];
+
+    Tabel& syahru = k.koneksi.TRBSyahru;
+    const bool adaSyahr = syahru.cari("Cari", bulan);
+    if (adaSyahr) r.syahr[0] = alamahSyahr(syahru, akhiran).value_or(r.syahr[0]);
+    for (const SlotUnsur& s : kSlot) {
+        const int sel = data.unsur.*s.unsur;
+        if (sel == 0) continue;
+        const size_t i = static_cast<size_t>(sel) - 1;
+        r.mabsut[i] = mabsut[s.slot - 1];
+        if (adaSyahr) {
+            const std::string k = s.kolom, a(akhiran);
+            isi(r.syahr[i], DlorbuSittin(BacaTeks(syahru, k + "Brj" + a), BacaTeks(syahru, k + "Jah" + a),
+                                         BacaTeks(syahru, k + "Qoh" + a), "0", "0", 1, ModusBuruj));
+        }
+    }
+
+    r.jumlah[0] = TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, r.majmu[0], r.mabsut[0], r.syahr[0]);
+    for (size_t i = 1; i < n; ++i)
+        r.jumlah[i] = TambahNilai(JenisBusur, TandaIkut, ModusBuruj, r.majmu[i], r.mabsut[i], r.syahr[i]);
+    return t;
+}
+
+void KerangkaTaqribi::PokokFR(int32_t tahun, int16_t bulan) {
+    Bulan = bulan;
+    const TahunTerbagi t = HitungPokokFR(
+        k_, data_, tahun, bulan, "",
+        [this](const Tabel& syahru, std::string_view akhiran) { return alamahSyahr(syahru, akhiran); },
+        {Majmu.semua(), Mabsut.semua(), Syahr.semua(), Jumlah.semua()});
+    Dawr = t.dawr;
+    Pengali = t.pengali;
+    SisaTahun = t.sisa;
+}
+
+std::optional<Nilai> KerangkaTaqribi::alamahSyahr(const Tabel& syahru, std::string_view akhiran) const {
+    return AlamahSyahrFR(syahru, akhiran);
 }
 
 void KerangkaTaqribi::TaadilFR() {
@@ -179,14 +199,7 @@ void KerangkaTaqribi::hitungTahap(int32_t tahun, int16_t bulan) {
     // the true conjunction that opens it, as Sullam's of month m does of the one that ends
     // it). The ijtima' at the end of month m is therefore their month m + 1, and after
     // Dzulhijjah their Muharram of the next year.
-    if (data_.bulanYangDibuka) {
-        if (bulan >= 12) {
-            tahun += 1;
-            bulan = 1;
-        } else {
-            bulan = static_cast<int16_t>(bulan + 1);
-        }
-    }
+    if (data_.bulanYangDibuka) BulanDibuka(tahun, bulan);
     kosongkanBaris();
     PokokFR(tahun, bulan);
     maju.langkah();

@@ -21,8 +21,11 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "methods/Baris.h"
 #include "methods/Konteks.h"
@@ -78,6 +81,37 @@ struct DataKitabFR {
     bool bulanYangDibuka;          // its month row counts the month that begins
     LetakLembar lembar;
 };
+
+// The split of one year: Dawr, the multiplier of the group row, the single years, and whether
+// the group row adds, adds nothing or takes off.
+struct TahunTerbagi {
+    enum class Langkah { Tambah, Nol, Kurang };
+    int32_t dawr = 0;
+    int32_t pengali = 0;
+    int16_t sisa = 0;
+    Langkah langkah = Langkah::Tambah;
+};
+TahunTerbagi BagiTahunFR(const PembagiTahun& p, int32_t tahun);
+
+// The month that a book counting the month that begins reckons for the ijtima' at the end of
+// month m (or the full moon in its middle): m + 1, and after Dzulhijjah Muharram of the next year.
+void BulanDibuka(int32_t& tahun, int16_t& bulan);
+
+// The alamah of the month row: weekday and hours of the columns al... with the suffix (""
+// for the ijtima', "GB" for the full moon); none when the table's cells do not make a value.
+using BacaAlamahSyahr = std::function<std::optional<Nilai>(const Tabel& syahru, std::string_view akhiran)>;
+std::optional<Nilai> AlamahSyahrFR(const Tabel& syahru, std::string_view akhiran);
+
+// The rows of grouped years, single years, the month and their sum.
+struct BarisPokok {
+    std::span<Nilai, 5> majmu, mabsut, syahr, jumlah;
+};
+
+// The grouped years, the single years and the month of a book of Fathu's pattern, from its base
+// and group rows, and their sum; the month row from TRBSyahru's columns with the suffix. A
+// missing month row leaves the former cells.
+TahunTerbagi HitungPokokFR(Konteks& k, const DataKitabFR& data, int32_t tahun, int16_t bulan, std::string_view akhiran,
+                           const BacaAlamahSyahr& alamahSyahr, const BarisPokok& baris);
 
 class KerangkaTaqribi : public Modul {
 public:
@@ -137,7 +171,7 @@ protected:
 
     // The month row from TRBSyahru; its alamah cell. A treatise whose alamah carries a
     // Masehi date fills the date fields too.
-    virtual Nilai alamahSyahr(const Tabel& syahru) const;
+    virtual std::optional<Nilai> alamahSyahr(const Tabel& syahru, std::string_view akhiran) const;
     // The ijtima' as the conclusion reads it: weekday and hours from sunset.
     virtual Nilai ijtimaSejakMaghrib() const { return Ijtima(5); }
     // Whether the ijtima' falls on the eve of the day named; none: as its clock tells.

@@ -1,0 +1,19 @@
+#include "eclipse/GerhanaIttifaqDzatilBain.h"
+
+#include "methods/taqribi/IttifaqDzatilBain.h"
+
+namespace falak {
+
+namespace {
+
+const DataGerhana kIttifaqDzatilBain = {"IDB1", 112, 46, 3, 4, 5, 4};
+
+PokokFathu pokok(Konteks k) { return PokokFathu(IttifaqDzatilBain(k).data(), true); }
+
+}  // namespace
+
+KhusufIttifaqDzatilBain::KhusufIttifaqDzatilBain(Konteks k) : KhusufPolaFathu(k, kIttifaqDzatilBain, pokok(k)) {}
+
+KusufIttifaqDzatilBain::KusufIttifaqDzatilBain(Konteks k) : KusufPolaFathu(k, kIttifaqDzatilBain, pokok(k)) {}
+
+}  // namespace falak

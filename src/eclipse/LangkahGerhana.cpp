@@ -1,0 +1,94 @@
+#include "eclipse/LangkahGerhana.h"
+
+#include "methods/taqribi/IttifaqDzatilBain.h"
+
+namespace falak::gerhana {
+
+Nilai busur(int64_t b, int64_t d, int64_t m, int64_t s) { return DlorbuSittin(b, d, m, s, 0, 1, ModusBuruj); }
+Nilai tambah(const Nilai& a, const Nilai& b) { return TambahNilai(JenisBusur, TandaIkut, ModusBuruj, a, b); }
+Nilai kurang(const Nilai& a, const Nilai& b) { return KurangNilai(JenisBusur, TandaIkut, ModusBuruj, a, b); }
+Nilai kali(const Nilai& a, const Nilai& b, int modus) {
+    return KaliNilai(JenisBusur, TandaIkut, modus, a, b).value_or(Nilai());
+}
+Nilai tambahAlamah(const Nilai& a, const Nilai& b) { return TambahNilai(JenisAlamah, TandaIkut, ModusBuruj, a, b); }
+Nilai kurangAlamah(const Nilai& a, const Nilai& b) { return KurangNilai(JenisAlamah, TandaIkut, ModusBuruj, a, b); }
+Nilai alamahNol() { return AlamahTarkh(JenisAlamah, MedanAlamah{}, 1); }
+
+bool burujSebelumSimpul(const Nilai& v) {
+    const int b = AmbilTingkat(v, MedanBuruj);
+    return b == 5 || b == 11;
+}
+
+Nilai jamSipil(const Nilai& alamah) {
+    return tambahAlamah(alamah, AlamahTarkh(JenisAlamah, MedanAlamah{0, 0, 0, 0, 0, 18, 0, 0, 0}, 1));
+}
+
+double jamDesimal(const Nilai& alamah) {
+    return AmbilTingkat(alamah, MedanJam) + AmbilTingkat(alamah, MedanMenit) / 60.0 +
+           AmbilTingkat(alamah, MedanDetik) / 3600.0;
+}
+
+}  // namespace falak::gerhana
+
+namespace falak {
+
+using namespace gerhana;
+
+void HitungQomar(std::span<Nilai, 6> q, const Nilai& tdlKs, const Nilai& tdlMr) {
+    q[0] = tdlKs;
+    q[1] = tdlMr;
+    q[2] = tambah(q[0], q[1]);
+    q[3] = kali(q[2], busur(0, 0, 5));
+    q[4] = tdlMr;
+    q[5] = tambah(q[3], q[4]);
+}
+
+size_t HitungSyams(std::span<Nilai> s, std::span<const Nilai, 5> jumlah, const Nilai& koreksi, const DataGerhana& data,
+                   bool titikHadap) {
+    size_t matahari;
+    if (data.wasath == 0) {
+        s[0] = jumlah[static_cast<size_t>(data.markaz) - 1];
+        s[1] = jumlah[4];
+        s[2] = tambah(s[0], s[1]);
+        s[3] = koreksi;
+        s[4] = kurang(s[2], s[3]);
+        matahari = 5;
+    } else {
+        s[0] = jumlah[static_cast<size_t>(data.wasath) - 1];
+        s[1] = koreksi;
+        s[2] = kurang(s[0], s[1]);
+        matahari = 3;
+    }
+    if (titikHadap) s[matahari] = tambah(s[matahari - 1], busur(6, 0, 0));
+    return matahari;
+}
+
+void HitungArdl(std::span<Nilai, 7> a, const Nilai& saah, const Nilai& tdlMr, const Nilai& hishshoh) {
+    a[0] = saah;
+    a[1] = kali(a[0], busur(0, 0, 2, 30));
+    a[2] = tdlMr;
+    a[3] = tambah(a[1], a[2]);
+    a[4] = hishshoh;
+    a[5] = a[3];
+    a[6] = kurang(a[4], a[5]);
+}
+
+void HitungBuhtu(std::span<Nilai, 4> b, const Nilai& saah, const Nilai& khossyoh) {
+    b[0] = saah;
+    b[1] = kali(b[0], busur(0, 0, 43));
+    b[2] = khossyoh;
+    b[3] = kurang(b[2], b[1]);
+}
+
+}  // namespace falak
+
+namespace falak {
+
+TahunTerbagi PokokFathu::hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal,
+                                const BarisPokok& baris) const {
+    if (kitab_.bulanYangDibuka) BulanDibuka(tahun, bulan);
+    const BacaAlamahSyahr alamah = bertanggal_ ? BacaAlamahSyahr(AlamahSyahrMasehi) : BacaAlamahSyahr(AlamahSyahrFR);
+    return HitungPokokFR(k, kitab_, tahun, bulan, istiqbal ? "GB" : "", alamah, baris);
+}
+
+}  // namespace falak

@@ -1,0 +1,83 @@
+// What the lunar and the solar eclipse of the taqribi books work alike: the value arithmetic
+// they use, the data that tells one book from another, and the stages that both kinds run on
+// their own rows (the moon's correction, the sun's place, the moon's latitude, its daily motion).
+#pragma once
+
+#include <cstdint>
+#include <span>
+
+#include "core/FungsHisab.h"
+#include "core/Nilai.h"
+#include "methods/Konteks.h"
+#include "methods/taqribi/KerangkaTaqribi.h"
+
+namespace falak::gerhana {
+
+Nilai busur(int64_t b, int64_t d, int64_t m, int64_t s = 0);
+Nilai tambah(const Nilai& a, const Nilai& b);
+Nilai kurang(const Nilai& a, const Nilai& b);
+Nilai kali(const Nilai& a, const Nilai& b, int modus = ModusBuruj);
+Nilai tambahAlamah(const Nilai& a, const Nilai& b);
+Nilai kurangAlamah(const Nilai& a, const Nilai& b);
+Nilai alamahNol();
+// Buruj 5 or 11: the moon comes up to its node, where 0 and 6 have passed it.
+bool burujSebelumSimpul(const Nilai& v);
+// A time of the alamah clock (hours from sunset) as the civil clock reads it.
+Nilai jamSipil(const Nilai& alamah);
+double jamDesimal(const Nilai& alamah);
+
+}  // namespace falak::gerhana
+
+namespace falak {
+
+// The constants and choices that tell one book's eclipse from another's.
+struct DataGerhana {
+    const char* kode;              // the book's frame columns: Nama<kode>GB, Nama<kode>GM ...
+    int bujurDerajat, bujurMenit;  // the markaz's longitude in the place correction
+    // The cells of the sum row: Sullam keeps alamah, Hishshoh, Khossyoh, Markaz and the auj
+    // (wasath 0: the sun's place is Markaz plus auj); Fathu's pattern keeps alamah, Hishshoh,
+    // Wasath, Khossyoh and Markaz, and its sun's place starts from the Wasath.
+    int wasath, khossyoh, markaz;
+    int kodeTdlHs;  // table of the hours per degree: 4, or 6 with seconds
+};
+
+// The moon's correction: the two equations, their sum, five minutes of it, and that with the
+// sun's equation again.
+void HitungQomar(std::span<Nilai, 6> qomar, const Nilai& tdlKs, const Nilai& tdlMr);
+
+// The sun's place against the moon's correction, in the book's form, and with titikHadap the
+// point opposite it, where the moon stands at the full moon. Returns the cell of the sun's
+// place: 5 in Sullam's form (Markaz plus auj, less the correction), 3 in Fathu's (Wasath less
+// the correction).
+size_t HitungSyams(std::span<Nilai> syams, std::span<const Nilai, 5> jumlah, const Nilai& koreksi,
+                   const DataGerhana& data, bool titikHadap);
+
+// The moon's Hishshoh at the syzygy: the hours to it times 2' 30" an hour, with the sun's
+// equation, taken off the mean Hishshoh (cell 7).
+void HitungArdl(std::span<Nilai, 7> ardl, const Nilai& saah, const Nilai& tdlMr, const Nilai& hishshoh);
+
+// The moon's anomaly at the syzygy, the argument of its daily motion: 43' an hour taken off.
+void HitungBuhtu(std::span<Nilai, 4> buhtu, const Nilai& saah, const Nilai& khossyoh);
+
+}  // namespace falak
+
+namespace falak {
+
+// The rows of years and month of a book of Fathu's pattern at its eclipses: its constants,
+// those of its month reckoning or its own eclipse base, read for the month that a run of
+// month m reckons (the month that begins, as its month reckoning counts). The full moon in the
+// middle of month m reads the month table's eclipse columns (GB), half a lunation back; the
+// ijtima' at its end the plain ones.
+class PokokFathu {
+public:
+    // bertanggal: the alamah carries the Masehi date of the book's month rows.
+    PokokFathu(const DataKitabFR& kitab, bool bertanggal) : kitab_(kitab), bertanggal_(bertanggal) {}
+    TahunTerbagi hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal, const BarisPokok& baris) const;
+    const DataKitabFR& kitab() const { return kitab_; }
+
+private:
+    DataKitabFR kitab_;
+    bool bertanggal_;
+};
+
+}  // namespace falak
