@@ -2,6 +2,7 @@
 // program's message, and a year shows the same sheet the command line and the spreadsheet get.
 #include <QComboBox>
 #include <QFileDialog>
+#include <QPrintPreviewDialog>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -88,11 +89,12 @@ private slots:
         QCOMPARE(m.data(m.index(2, 0)).toString(), QString("Muharrom 1445 H."));
     }
 
-    void theCalendarGoesToTheFileChosen() {
+    void theCalendarGoesToTheFileChosenAndToThePrinter() {
         FrmKalender* d = buka();
         QVERIFY(d);
         auto* kirim = cari<QPushButton>(*d, "KirimKalender");
-        QVERIFY(!kirim->isEnabled());  // nothing to send yet
+        auto* cetak = cari<QPushButton>(*d, "CetakKalender");
+        QVERIFY(!kirim->isEnabled() && !cetak->isEnabled());  // nothing to send yet
         isiTahun(*d, "2026");
         QTest::mouseClick(cari<QPushButton>(*d, "ProsesKal12"), Qt::LeftButton);
         QVERIFY(kirim->isEnabled());
@@ -109,6 +111,11 @@ private slots:
         // One worksheet, named by the year and the book.
         const QByteArray isi = f.readAll();
         QCOMPARE(isi.count("xl/worksheets/sheet") / 2, 1);
+
+        QTest::mouseClick(cetak, Qt::LeftButton);
+        QPrintPreviewDialog* pratinjau = nullptr;
+        QTRY_VERIFY((pratinjau = d->findChild<QPrintPreviewDialog*>("dlgCetakKalender")) && pratinjau->isVisible());
+        pratinjau->reject();
     }
 };
 

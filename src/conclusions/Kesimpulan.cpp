@@ -452,7 +452,10 @@ std::string ClsKesimpulan::FormatJam(const Nilai& jam, const Nilai& tanggal, boo
     std::string butir0 = w.format("hh.mm");
     if (!lengkap) return butir0;
     std::string butir2 = butir0;
-    const Waktu zona = keZona(AmbilTingkat(tanggal, MedanBulan), AmbilTingkat(tanggal, MedanTanggal), w);
+    // A clock time: just after midnight by the sun may be just before it by the zone.
+    constexpr int64_t kSehari = 24 * 3600;
+    const int64_t detikZona = keZona(AmbilTingkat(tanggal, MedanBulan), AmbilTingkat(tanggal, MedanTanggal), w).detik();
+    const Waktu zona = Waktu::dari(0, 0, (detikZona % kSehari + kSehari) % kSehari);
     // The writers of the methods expect the two columns to change places with the flag.
     if (zonaKedua) butir2 = zona.format("hh.mm");
     else butir0 = zona.format("hh.mm");

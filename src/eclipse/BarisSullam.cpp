@@ -19,8 +19,8 @@ Nilai nol() { return DlorbuSittin(0, 0, 0, 0, 0, 1, ModusBuruj); }
 
 }  // namespace
 
-BagiTahunSullam BagiTahun(int32_t tahun) {
-    using enum BagiTahunSullam::Langkah;
+TahunTerbagi BagiTahun(int32_t tahun) {
+    using enum TahunTerbagi::Langkah;
     if (tahun >= 10) {
         const int32_t dawr = (tahun + 10) / 10;
         return {dawr, dawr, static_cast<int16_t>((tahun + 10) % 10), Tambah};
@@ -30,10 +30,10 @@ BagiTahunSullam BagiTahun(int32_t tahun) {
     return {dawr, std::abs(dawr), static_cast<int16_t>(tahun - dawr * 10 + 10), Kurang};
 }
 
-void HitungBarisSullam(Konteks& k, const BagiTahunSullam& bagi, int16_t bulan, const std::array<Nilai, 5>& mabda,
+void HitungBarisSullam(Konteks& k, const TahunTerbagi& bagi, int16_t bulan, const std::array<Nilai, 5>& mabda,
                        std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut, std::span<Nilai, 5> syahr,
                        std::span<Nilai, 5> jumlah) {
-    using enum BagiTahunSullam::Langkah;
+    using enum TahunTerbagi::Langkah;
     std::array<Nilai, 5> langkah;
     for (size_t i = 0; i < 5; ++i) {
         switch (bagi.langkah) {

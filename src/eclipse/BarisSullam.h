@@ -9,25 +9,19 @@
 
 #include "core/Nilai.h"
 #include "methods/Konteks.h"
+#include "methods/taqribi/KerangkaTaqribi.h"
 
 namespace falak {
 
-// The split of the year: groups of ten (one more than the whole decades from year 10 on), the
-// multiplier of the group row, the single years, and whether the group row adds, adds
-// nothing (years 1 to 9) or takes off (year 0 and before).
-struct BagiTahunSullam {
-    enum class Langkah { Tambah, Nol, Kurang };
-    int32_t dawr = 0;
-    int32_t pengali = 0;
-    int16_t sisa = 0;
-    Langkah langkah = Langkah::Tambah;
-};
-BagiTahunSullam BagiTahun(int32_t tahun);
+// Sullam's split of the year: groups of ten (one more than the whole decades from year 10 on),
+// the group row adding from year 10, adding nothing for years 1 to 9, taking off for year 0
+// and before.
+TahunTerbagi BagiTahun(int32_t tahun);
 
 // Majmu = base +/- the group row times the multiplier, Mabsut the single years, Syahr the
 // month (zero for month 1, which reads no table; a missing row leaves the former cells) and
 // Jumlah their sum.
-void HitungBarisSullam(Konteks& k, const BagiTahunSullam& bagi, int16_t bulan, const std::array<Nilai, 5>& mabda,
+void HitungBarisSullam(Konteks& k, const TahunTerbagi& bagi, int16_t bulan, const std::array<Nilai, 5>& mabda,
                        std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut, std::span<Nilai, 5> syahr,
                        std::span<Nilai, 5> jumlah);
 

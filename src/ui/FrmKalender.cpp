@@ -1,7 +1,6 @@
 #include "ui/FrmKalender.h"
 
 #include <QComboBox>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
@@ -12,6 +11,7 @@
 #include "calendar/ModHisabKalender.h"
 #include "export/Excel.h"
 #include "run/ProsesKalender.h"
+#include "ui/Kirim.h"
 #include "ui/KotakPesan.h"
 #include "ui/ModelLembar.h"
 
@@ -53,6 +53,9 @@ FrmKalender::FrmKalender(Workspace& ws, const QString& tempat, QWidget* induk)
     kirim_ = new QPushButton(QStringLiteral("Kirim ke Excel"));
     kirim_->setObjectName("KirimKalender");
     kirim_->setEnabled(false);
+    cetak_ = new QPushButton(QStringLiteral("Cetak"));
+    cetak_->setObjectName("CetakKalender");
+    cetak_->setEnabled(false);
     keterangan_ = new QLabel;
     keterangan_->setObjectName("lblSumber");
 
@@ -66,6 +69,7 @@ FrmKalender::FrmKalender(Workspace& ws, const QString& tempat, QWidget* induk)
     atas->addWidget(metode_);
     atas->addWidget(proses_);
     atas->addWidget(kirim_);
+    atas->addWidget(cetak_);
     atas->addStretch(1);
     tata_ = new QVBoxLayout(this);
     tata_->addLayout(atas);
@@ -74,6 +78,7 @@ FrmKalender::FrmKalender(Workspace& ws, const QString& tempat, QWidget* induk)
     connect(proses_, &QPushButton::clicked, this, &FrmKalender::ProsesKal12);
     connect(tahun_, &QLineEdit::returnPressed, this, &FrmKalender::ProsesKal12);
     connect(kirim_, &QPushButton::clicked, this, &FrmKalender::KirimExcel);
+    connect(cetak_, &QPushButton::clicked, this, &FrmKalender::Cetak);
 }
 
 void FrmKalender::ProsesKal12() {
@@ -98,20 +103,19 @@ void FrmKalender::ProsesKal12() {
     keterangan_->setText(h.dariModul ? QStringLiteral("Awal bulan menurut hisab kitabnya sendiri.")
                                      : QStringLiteral("Awal bulan menurut hisab kalender (taqribi ringkas)."));
     kirim_->setEnabled(true);
+    cetak_->setEnabled(true);
 }
 
 void FrmKalender::KirimExcel() {
-    auto* dialog = new QFileDialog(this, QStringLiteral("Kirim ke Excel"), QString::fromStdString(kerja_.judul) + ".xlsx",
-                                   QStringLiteral("Buku kerja Excel (*.xlsx)"));
-    dialog->setObjectName("dlgKirimKalender");
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setAcceptMode(QFileDialog::AcceptSave);
-    dialog->setDefaultSuffix(QStringLiteral("xlsx"));
-    connect(dialog, &QFileDialog::fileSelected, this, [this](const QString& berkas) {
-        const std::string salah = EksporExcel({&kerja_}, true, ws_.koneksi, berkas.toStdString());
-        if (!salah.empty()) BukaPesan(this, QMessageBox::Warning, QStringLiteral("Gagal"), QString::fromStdString(salah));
-    });
-    dialog->open();
+    DialogSimpan(*this, QStringLiteral("dlgKirimKalender"), QStringLiteral("Kirim ke Excel"),
+                 QString::fromStdString(kerja_.judul) + ".xlsx", QStringLiteral("xlsx"),
+                 QStringLiteral("Buku kerja Excel (*.xlsx)"),
+                 [this](const std::string& berkas) { return EksporExcel({&kerja_}, true, ws_.koneksi, berkas); });
+}
+
+void FrmKalender::Cetak() {
+    PratinjauCetak(*this, QStringLiteral("dlgCetakKalender"), QString::fromStdString(kerja_.judul),
+                   [this] { return std::vector<const LembarKerja*>{&kerja_}; }, ws_.koneksi);
 }
 
 }  // namespace falak::ui

@@ -1,7 +1,8 @@
 // The year calendar window: a year, Masehi or Hijri, and a book from the calendar's list; the
 // twelve months with the Hijri day and the pasaran in every day's cell and the first days of
 // the Hijri months boxed. The calendar is the sheet that the command line and the
-// spreadsheet show; "Kirim ke Excel" writes it to a workbook chosen in a save dialog.
+// spreadsheet show; "Kirim ke Excel" writes it to a workbook chosen in a save dialog, "Cetak"
+// prints it through the print preview.
 #pragma once
 
 #include <QDialog>
@@ -31,6 +32,8 @@ public:
     void ProsesKal12();
     // Asks for a file (the dialog "dlgKirimKalender") and writes the calendar's workbook.
     void KirimExcel();
+    // The print preview of the calendar (the dialog "dlgCetakKalender"), to pin on the wall.
+    void Cetak();
     const Sheet& lembar() const { return kerja_.lembar; }
 
 private:
@@ -42,6 +45,7 @@ private:
     QComboBox* metode_;
     QPushButton* proses_;
     QPushButton* kirim_;
+    QPushButton* cetak_;
     QLabel* keterangan_;
     QVBoxLayout* tata_;
     GridLembar* grid_ = nullptr;

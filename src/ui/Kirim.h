@@ -3,9 +3,32 @@
 // print preview.
 #pragma once
 
+#include <QString>
+
+#include <functional>
+#include <string>
+#include <vector>
+
+class QWidget;
+
+namespace falak {
+class ClsConnection;
+struct LembarKerja;
+}  // namespace falak
+
 namespace falak::ui {
 
 class FrmHisab;
+
+// A save dialog (named objek) that suggests the file name and adds the suffix; the chosen file
+// goes to tulis, whose answer (empty, or what went wrong) is shown when it is not empty.
+void DialogSimpan(QWidget& induk, const QString& objek, const QString& judul, const QString& nama,
+                  const QString& akhiran, const QString& saringan, std::function<std::string(const std::string&)> tulis);
+
+// The print preview (the dialog named objek) of the sheets that lembar gives when the preview
+// paints, one page each, from which the user prints.
+void PratinjauCetak(QWidget& induk, const QString& objek, const QString& judul,
+                    std::function<std::vector<const LembarKerja*>()> lembar, const ClsConnection& koneksi);
 
 // What goes to the spreadsheet: the sheet in front with its conclusion (mnuExportThis), its
 // conclusion alone (mnuExportKet), or every sheet on the tabs (mnuExportAll).

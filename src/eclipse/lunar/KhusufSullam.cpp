@@ -15,7 +15,7 @@ KhusufSullam::KhusufSullam(Konteks k) : KerangkaKhusuf(k, kKhusufSullam) {}
 
 void KhusufSullam::PokokKhusuf(int32_t tahun, int16_t bulan) {
     HsBulan = bulan;
-    const BagiTahunSullam bagi = BagiTahun(tahun);
+    const TahunTerbagi bagi = BagiTahun(tahun);
     HsDawr = bagi.dawr;
     HsSisaTahun = bagi.sisa;
     // The base drifts with the groups; the value builder carries minutes out of range.

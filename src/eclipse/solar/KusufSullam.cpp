@@ -14,7 +14,7 @@ KusufSullam::KusufSullam(Konteks k) : KerangkaKusuf(k, kKusufSullam) {}
 
 void KusufSullam::PokokKusuf(int32_t tahun, int16_t bulan) {
     KfBulan = bulan;
-    const BagiTahunSullam bagi = BagiTahun(tahun);
+    const TahunTerbagi bagi = BagiTahun(tahun);
     KfDawr = bagi.dawr;
     KfSisaTahun = bagi.sisa;
     const std::array<Nilai, 5> mabda = {Nilai("000 00 00 00 07 14 04 00 00 1"), Nilai("09 16 33 00 00 1"),
