@@ -113,6 +113,11 @@ TEST(Rumus, TheSheetOnViewFollowsTheSelectedTab) {
     // A tab without a sheet leaves the view as it was.
     EXPECT_FALSE(d.tampil("IjSN_3"));
     EXPECT_EQ(d.kini()->lembar->halaman, "kedua");
+    // A tab that keeps its key takes a new run: the new sheet goes under the key, the old goes.
+    d.pindah("IjER_2", "IjER_1");
+    EXPECT_EQ(d.jumlah(), 1u);
+    EXPECT_EQ(d.tampil("IjER_1")->lembar->halaman, "kedua");
+    EXPECT_FALSE(d.tampil("IjER_2"));
 }
 
 }  // namespace

@@ -162,6 +162,15 @@ std::optional<DaftarRumus::Tampilan> DaftarRumus::tampil(std::string_view kunciT
     return std::nullopt;
 }
 
+void DaftarRumus::pindah(std::string_view dari, std::string_view ke) {
+    const auto di = [](std::string_view kunci) { return [kunci](const Item& i) { return i.kunci == kunci; }; };
+    if (dari == ke || std::none_of(item_.begin(), item_.end(), di(dari))) return;
+    std::erase_if(item_, di(ke));
+    for (Item& i : item_)
+        if (i.kunci == dari) i.kunci = std::string(ke);
+    kini_ = item_.size();
+}
+
 std::optional<DaftarRumus::Tampilan> DaftarRumus::kini() const {
     if (kini_ >= item_.size()) return std::nullopt;
     return tampilan(item_[kini_], kiniBaru_);

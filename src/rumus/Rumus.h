@@ -82,6 +82,9 @@ public:
     // The sheet of the selected tab, which becomes the current one; none when the tab has
     // none (the view then stays as it was).
     std::optional<Tampilan> tampil(std::string_view kunciTab);
+    // The sheet kept under `dari` goes under `ke`, in place of the one kept there: a tab that
+    // keeps its key shows a new run.
+    void pindah(std::string_view dari, std::string_view ke);
     // The current sheet: the last built or shown.
     std::optional<Tampilan> kini() const;
     size_t jumlah() const { return item_.size(); }

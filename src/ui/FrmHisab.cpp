@@ -33,6 +33,7 @@
 #include "core/Tabel.h"
 #include "ui/FrmDaerah.h"
 #include "ui/KotakPesan.h"
+#include "ui/PanelRumus.h"
 #include "ui/Pekerja.h"
 #include "ui/TabLembar.h"
 
@@ -187,9 +188,12 @@ void FrmHisab::buatTampilan() {
     auto* belah = new QSplitter(Qt::Horizontal);
     belah->addWidget(kiri);
     belah->addWidget(tengah_);
+    rumus_ = new PanelRumus;
+    belah->addWidget(rumus_);
     belah->setStretchFactor(1, 1);
-    belah->setSizes({240, 1040});
+    belah->setSizes({240, 1040, 360});
     belah->setChildrenCollapsible(false);
+    rumus_->hide();
 
     auto* pusat = new QWidget;
     auto* tata = new QVBoxLayout(pusat);
@@ -367,8 +371,17 @@ std::vector<const LembarKerja*> FrmHisab::lembarTerbuka() const {
 }
 
 void FrmHisab::perbaruiMenu() {
+    // The session is the worker's while a job runs; the pane catches up when it ends.
+    if (const LembarKerja* l = lembarAktif(); l && !sibuk()) rumus_->ikuti(ws_->rumus, l->kunci);
     for (auto& [aksi, f] : perbarui_) f(*this, *aksi);
 }
+
+void FrmHisab::tampilkanRumus(bool tampil) {
+    rumus_->setVisible(tampil);
+    perbaruiMenu();
+}
+
+bool FrmHisab::rumusTampil() const { return !rumus_->isHidden(); }
 
 void FrmHisab::aturSibuk(bool sibuk) {
     for (QAction* a : perintah_) a->setEnabled(!sibuk);
@@ -459,6 +472,7 @@ void FrmHisab::tutupTab(int indeks) {
 void FrmHisab::gantiTab(int indeks, LembarKerja& baru) {
     auto* lama = qobject_cast<TabLembar*>(tab_->widget(indeks));
     const LembarKerja* lembarLama = &lama->lembar();
+    ws_->rumus.pindah(baru.kunci, lembarLama->kunci);
     baru.kunci = lembarLama->kunci;
     auto* t = new TabLembar(baru);
     tab_->insertTab(indeks, t, q(baru.judul));

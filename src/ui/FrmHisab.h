@@ -38,6 +38,7 @@ class ClsConnection;
 namespace falak::ui {
 
 class Pekerja;
+class PanelRumus;
 class TabLembar;
 
 class FrmHisab : public QMainWindow {
@@ -90,6 +91,10 @@ public:
     TabLembar* tabAktif() const;
     const LembarKerja* lembarAktif() const;
     std::vector<const LembarKerja*> lembarTerbuka() const;
+    // The formula pane beside the sheets, shown or hidden; it follows the tab in front.
+    void tampilkanRumus(bool tampil);
+    bool rumusTampil() const;
+    PanelRumus& panelRumus() const { return *rumus_; }
     // The report of the tables that could not be read; empty when all were.
     const QString& laporanTabel() const { return laporanTabel_; }
 
@@ -141,6 +146,7 @@ private:
     QTreeWidget* pohon_ = nullptr;
     QStackedWidget* tengah_ = nullptr;
     QTabWidget* tab_ = nullptr;
+    PanelRumus* rumus_ = nullptr;
     QProgressBar* kemajuan_ = nullptr;
     QPushButton* stop_ = nullptr;
     QMenu* menuLembar_ = nullptr;

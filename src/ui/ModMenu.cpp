@@ -79,6 +79,17 @@ void tentang(FrmHisab& j, QAction&) {
                              "Telp. : -"));
 }
 
+// The formula pane: the command shows or hides it, its caption says which it will do.
+void picRumuz(FrmHisab& j, QAction&) { j.tampilkanRumus(!j.rumusTampil()); }
+void judulRumuz(FrmHisab& j, QAction& a) {
+    a.setText(j.rumusTampil() ? QStringLiteral("Tutup &Rumuz") : QStringLiteral("Tampilkan &Rumuz"));
+}
+
+ItemMenu ikutiLembar(ItemMenu item, AksiMenu perbarui) {
+    item.perbarui = perbarui;
+    return item;
+}
+
 ItemMenu bolehSibuk(ItemMenu item) {
     item.bolehSaatSibuk = true;
     return item;
@@ -157,7 +168,7 @@ const std::vector<ItemMenu>& DaftarMenu() {
         bolehSibuk(Perintah("FILE", "mnuExit", "Keluar (&Exit)", keluar, QKeySequence::Quit)),
 
         Menu("", "EDIT", "&Edit"),
-        Perintah("EDIT", "mnuPicRumuz", "Tampilkan &Rumuz", nullptr),
+        ikutiLembar(Perintah("EDIT", "mnuPicRumuz", "Tampilkan &Rumuz", picRumuz), judulRumuz),
         Pemisah("EDIT", "SEPARATOR3"),
         Perintah("EDIT", "mnuNewDaerah", "Tambah/Hapus &Daerah", bukaDaerah, QKeySequence::Open),
 
