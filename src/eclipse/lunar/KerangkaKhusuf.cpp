@@ -1,6 +1,7 @@
 #include "eclipse/lunar/KerangkaKhusuf.h"
 
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "conclusions/Kesimpulan.h"
@@ -246,11 +247,13 @@ void KerangkaKhusuf::tulisSel(ClsFlexGrid& g) {
         for (auto [baris, row] : {std::pair{3, &HsMajmu}, {4, &HsMabsut}, {5, &HsSyahr}, {6, &HsJumlah}})
             g.FlexData((*row)(k), baris, c, k == 1 ? std::initializer_list<int>{10, 11, 12, T}
                                                     : std::initializer_list<int>{1, 2, 3, T});
-    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan) {
-        for (size_t k = 1; k <= row.ukuran(); ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
+    // A row's cells down one column; of the sun's row only those its form fills.
+    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan,
+                           size_t n = std::decay_t<decltype(row)>::ukuran()) {
+        for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
     };
     kolom(HsQomar, 8, 37, lima);
-    kolom(HsSyams, 14, 37, lima);
+    kolom(HsSyams, 14, 37, lima, selMatahari_ + 1);
     kolom(HsSaah, 20, 37, lima);
     kolom(HsIstiqbal, 25, 37, waktu);
     kolom(HsArdl, 36, 37, lima);

@@ -1,6 +1,7 @@
 #include "eclipse/solar/KerangkaKusuf.h"
 
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "conclusions/Kesimpulan.h"
@@ -297,11 +298,13 @@ void KerangkaKusuf::IsiTabelKusuf(ClsFlexGrid& g) {
         for (auto [b, row] : {std::pair{3, &KfMajmu}, {4, &KfMabsut}, {5, &KfSyahr}, {6, &KfJumlah}})
             g.FlexData((*row)(k), b, c, k == 1 ? std::initializer_list<int>{10, 11, 12, T}
                                                 : std::initializer_list<int>{1, 2, 3, T});
-    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan) {
-        for (size_t k = 1; k <= row.ukuran(); ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
+    // A row's cells down one column; of the sun's row only those its form fills.
+    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan,
+                           size_t n = std::decay_t<decltype(row)>::ukuran()) {
+        for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
     };
     kolom(KfQomar, 8, 37, lima);
-    kolom(KfSyams, 14, 37, lima);
+    kolom(KfSyams, 14, 37, lima, selMatahari_);
     kolom(KfSaah, 19, 37, lima);
     kolom(KfIjtima, 24, 37, waktu);
     kolom(KfArdl, 29, 37, lima);
