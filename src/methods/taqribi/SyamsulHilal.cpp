@@ -51,7 +51,7 @@ Nilai keNilai(float x, int tanda = 1) {
 
 }  // namespace
 
-void SyamsulHilal::PokokSH(int32_t tahun, int16_t bulan) {
+void SyamsulHilal::PokokSH(int32_t tahun, int16_t bulan, bool purnama) {
     SHBulan = bulan;
     const int64_t y = static_cast<int64_t>(tahun) - 1;
     const Unsur* langkah;
@@ -89,7 +89,8 @@ void SyamsulHilal::PokokSH(int32_t tahun, int16_t bulan) {
         for (size_t i = 0; i < 6; ++i) bacaDesimal(t, kKolomTahun[i], SHMabsut(i + 1));
     }
     if (Tabel& t = k_.koneksi.TRBSyahruSH; t.cari("Cari", SHBulan)) {
-        for (size_t i = 0; i < 6; ++i) bacaDesimal(t, kKolomTahun[i], SHSyahr(i + 1));
+        for (size_t i = 0; i < 6; ++i)
+            bacaDesimal(t, std::string(kKolomTahun[i]) + (purnama ? "GB" : ""), SHSyahr(i + 1));
     }
 
     SHJumlah(2) = JumlahSH(-1, SHMajmu(1), SHMabsut(1), SHSyahr(1), SHMajmu(2), SHMabsut(2), SHSyahr(2), SHHariText);
@@ -259,8 +260,8 @@ void SyamsulHilal::tulisSel(ClsFlexGrid& g) {
     g.FlexTeks(SHNamaManzil, 18, 9);
 }
 
-void SyamsulHilal::IjtimaSajaSH(int32_t tahun, int16_t bulan) {
-    PokokSH(tahun, bulan);
+void SyamsulHilal::IjtimaSajaSH(int32_t tahun, int16_t bulan, bool purnama) {
+    PokokSH(tahun, bulan, purnama);
     TaadilSH();
     QomarSH();
     BudSH();

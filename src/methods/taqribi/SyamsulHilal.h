@@ -41,11 +41,13 @@ public:
     // of the rows to three decimals and the cells of the sheet. Only a run with its sheet
     // rounds its rows.
     HasilHitung HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar = true, bool kata = true);
-    // The stages from the year split to the ijtima' only, without words or sheet.
-    void IjtimaSajaSH(int32_t tahun, int16_t bulan);
+    // The stages from the year split to the ijtima' only, without words or sheet. With
+    // purnama the month row is the full moon in the middle of the month (its GB columns), and
+    // the rows reach the istiqbal instead: the lunar eclipse stands on them.
+    void IjtimaSajaSH(int32_t tahun, int16_t bulan, bool purnama = false);
 
     // The stages, in this order; each reads what the one before it wrote.
-    void PokokSH(int32_t tahun, int16_t bulan);
+    void PokokSH(int32_t tahun, int16_t bulan, bool purnama = false);
     void TaadilSH();
     void QomarSH();
     void BudSH();
