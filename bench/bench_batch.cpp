@@ -1,6 +1,7 @@
-// The batches without sheets on the shipped tables: every taqribi treatise for one month, and
-// the twelve months of a year by every one, as "falak semua" and "falak setahun --kitab semua"
-// run them; and one month by Fathu al-Ro'uf al-Mannan alone, with and without its sheet.
+// The batches without sheets on the shipped tables: every treatise for one month, and the
+// twelve months of a year by every one, as "falak semua" and "falak setahun --kitab semua" run
+// them for their table (the gist of each run, the conclusions unworded); and one month by
+// Fathu al-Ro'uf al-Mannan alone, with and without its sheet.
 #include <benchmark/benchmark.h>
 
 #include "core/Koneksi.h"
@@ -24,7 +25,7 @@ Sesi& sesi() {
 void BM_SemuaKitabSebulan(benchmark::State& state) {
     Workspace& ws = sesi().ws;
     for (auto _ : state) {
-        auto h = ws.mnuProsesAllSub("1445", 8, "Pasuruan", Workspace::Keluaran::Ringkas);
+        auto h = ws.mnuProsesAllSub("1445", 8, "Pasuruan", Workspace::Keluaran::Intisari);
         benchmark::DoNotOptimize(h.ringkas.data());
     }
     state.counters["kitab"] = static_cast<double>(ws.kitabTersedia().size());
@@ -34,7 +35,7 @@ BENCHMARK(BM_SemuaKitabSebulan)->Unit(benchmark::kMicrosecond);
 void BM_DuaBelasBulanSemuaKitab(benchmark::State& state) {
     Workspace& ws = sesi().ws;
     for (auto _ : state) {
-        auto h = ws.duaBelasBulanSemuaKitab("1445", "Pasuruan", Workspace::Keluaran::Ringkas);
+        auto h = ws.duaBelasBulanSemuaKitab("1445", "Pasuruan", Workspace::Keluaran::Intisari);
         benchmark::DoNotOptimize(h.ringkas.data());
     }
 }
@@ -47,7 +48,7 @@ void BM_SeribuTahunSemuaKitab(benchmark::State& state) {
     for (auto _ : state) {
         size_t n = 0;
         for (int tahun = 1000; tahun < 2000; ++tahun)
-            n += ws.duaBelasBulanSemuaKitab(std::to_string(tahun), "Pasuruan", Workspace::Keluaran::Ringkas).ringkas.size();
+            n += ws.duaBelasBulanSemuaKitab(std::to_string(tahun), "Pasuruan", Workspace::Keluaran::Intisari).ringkas.size();
         benchmark::DoNotOptimize(n);
     }
     state.counters["kitab"] = static_cast<double>(ws.kitabTersedia().size());

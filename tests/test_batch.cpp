@@ -88,6 +88,28 @@ TEST_F(Batch, TwelveMonthsAndTheStopBetweenRuns) {
     EXPECT_TRUE(ws.mnu12BulanSub("TZ", "", "Pasuruan", Workspace::Keluaran::Ringkas).pesan);
 }
 
+// A batch that prints only the gist leaves the conclusions unworded; what it keeps must be what
+// the worded batch gives, for every book and month, or the table would differ from the JSON.
+TEST_F(Batch, TheGistAloneIsTheGistOfTheWordedRuns) {
+    ClsConnection koneksi(folder.lokasi());
+    Workspace ws(koneksi);
+    const auto kata = ws.duaBelasBulanSemuaKitab("1446", "Pasuruan", Workspace::Keluaran::Ringkas);
+    const auto intisari = ws.duaBelasBulanSemuaKitab("1446", "Pasuruan", Workspace::Keluaran::Intisari);
+    ASSERT_EQ(intisari.ringkas.size(), kata.ringkas.size());
+    for (size_t i = 0; i < kata.ringkas.size(); ++i) {
+        const Ringkasan &a = kata.ringkas[i].ringkasan, &b = intisari.ringkas[i].ringkasan;
+        SCOPED_TRACE(std::string(kata.ringkas[i].modul->kode) + " " + std::to_string(kata.ringkas[i].bulan));
+        EXPECT_EQ(kata.ringkas[i].kesimpulan.size(), 13u);
+        EXPECT_TRUE(intisari.ringkas[i].kesimpulan.empty());
+        EXPECT_EQ(b.tanggalIjtima, a.tanggalIjtima);
+        EXPECT_EQ(b.malam, a.malam);
+        EXPECT_EQ(b.tanggalSipil, a.tanggalSipil);
+        EXPECT_EQ(b.jamIjtima, a.jamIjtima);
+        EXPECT_EQ(b.tinggiHilal, a.tinggiHilal);
+        EXPECT_EQ(b.awalBulan, a.awalBulan);
+    }
+}
+
 TEST_F(Batch, CommandsPrintAlignedTablesAndJson) {
     std::string out, err;
     ASSERT_EQ(jalan({"semua", "--tahun", "1445", "--bulan", "8"}, out, err), 0) << err;

@@ -298,6 +298,23 @@ TEST_F(BulanBulan, KhulashotuNamesTheDayOfTheSunsetItMeasuresTo) {
     EXPECT_EQ(h.lembar->kesimpulan[2], "Ijtima' : Jum'at Pon, 23 Des 2022 M.");
 }
 
+TEST_F(BulanBulan, KhulashotuCarriesTheFullMoonHalfALunationBeforeItsMonthRow) {
+    // Robiul awal 1447 reads the row of three lunations, 88 d 14 h 12 m: weekday 4, 14 h 12 m.
+    // Half a lunation (14 d 18 h 22 m) before it: 73 d 19 h 50 m, weekday 3, 19 h 50 m; the
+    // wasath 2 27 19 less 14 33 is 2 12 46.
+    ClsConnection koneksi(lokasi());
+    Workspace ws(koneksi);
+    const auto h = ws.mnuProsesIjSub("KW1", "1447", 3, "Jakarta");
+    ASSERT_TRUE(h.lembar);
+    std::map<std::string, std::vector<std::string>> baris;
+    for (const BarisTercatat& b : h.lembar->baris) baris[b.nama] = b.sel;
+    ASSERT_EQ(baris["Syahr"].size(), 4u);
+    EXPECT_EQ(baris["Syahr"][0].substr(0, 20), "000 00 00 00 04 14 1");
+    ASSERT_EQ(baris["SyahrGB"].size(), 4u);
+    EXPECT_EQ(baris["SyahrGB"][0].substr(0, 20), "000 00 00 00 03 19 5");
+    EXPECT_EQ(baris["SyahrGB"][1].substr(0, 8), "02 12 46");
+}
+
 TEST_F(BulanBulan, KhulashotuWestOfMakkahIsNotADayAndAHalfEarly) {
     // Cape Town, Robiul awal 1445: 18.39 local apparent time on Saturday 14 October 2023, which
     // the zone's clock (30° E, the sun some 14 minutes fast) reads 19.11.

@@ -144,9 +144,11 @@ int jalankan(const Argumen& a, const Lingkungan& l, bool kolomBulan, const Jalan
     const auto tempat = CariTempat(koneksi.Daerah, a.teks("--markaz"));
     if (!tempat)
         throw SalahPakai{"daerah \"" + a.teks("--markaz") + "\" tidak ada di daftar tempat (lihat: falak tempat daftar)"};
-    // Sheets are painted only for a workbook.
+    // Sheets are painted only for a workbook, the conclusions worded only for JSON.
     const Workspace::HasilBatch h =
-        batch(ws, tempat->nama, a.ada("--xlsx") ? Workspace::Keluaran::Lembar : Workspace::Keluaran::Ringkas);
+        batch(ws, tempat->nama, a.ada("--xlsx")   ? Workspace::Keluaran::Lembar
+                                : a.ada("--json") ? Workspace::Keluaran::Ringkas
+                                                  : Workspace::Keluaran::Intisari);
     if (h.pesan) return Tolak(a, l, h.pesan->teks);
     if (a.ada("--xlsx")) {
         std::vector<const LembarKerja*> semua;

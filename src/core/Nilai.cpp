@@ -2,7 +2,6 @@
 
 #include <charconv>
 #include <cstdlib>
-#include <limits>
 
 #include "core/Angka.h"
 
@@ -23,11 +22,6 @@ int32_t bacaMedan(std::string_view medan) {
     }
     if (!AdalahAngka(medan)) return 0;
     return BulatGenap32(ValAngka(medan)).value_or(0);
-}
-
-int32_t sempit32(int64_t v) {
-    if (v < std::numeric_limits<int32_t>::min() || v > std::numeric_limits<int32_t>::max()) return 0;
-    return static_cast<int32_t>(v);
 }
 
 // Append v (never negative) padded with zeros to at least lebar digits.
@@ -115,9 +109,5 @@ std::string Nilai::teks() const {
     return {};
 }
 
-int32_t Nilai::posisi(int p) const {
-    if (p < 1 || p > 9) return 0;
-    return sempit32(medan_[static_cast<size_t>(p - 1)]);
-}
 
 }  // namespace falak

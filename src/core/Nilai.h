@@ -39,7 +39,11 @@ public:
     std::string teks() const;
     // Field at blank-separated position p (1 to 9) as a 32-bit whole number: a field that is
     // not a number, or lies past the end, reads 0.
-    int32_t posisi(int p) const;
+    int32_t posisi(int p) const {
+        if (p < 1 || p > 9) return 0;
+        const int64_t v = medan_[static_cast<size_t>(p - 1)];
+        return v < INT32_MIN || v > INT32_MAX ? 0 : static_cast<int32_t>(v);
+    }
     // The last character as a digit; 0 when it is not a digit.
     int tanda() const { return tanda_; }
     // The word "Kosong", which stands for an operand that is not given.

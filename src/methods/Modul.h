@@ -45,6 +45,7 @@ struct Permintaan {
     int32_t tahun = 0;
     int16_t bulan = 0;
     bool lembar = true;  // paint the sheets; a batch that prints no sheet asks for none
+    bool kata = true;    // word the conclusion's lines; a batch that prints only the gist asks for none
 };
 
 // A sheet that a run painted: the prefix of its key ("IjSN_", "TdlKfSN_"), its tab's caption

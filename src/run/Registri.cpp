@@ -5,7 +5,9 @@
 #include "eclipse/GerhanaIttifaqDzatilBain.h"
 #include "eclipse/GerhanaTadzkirotulIkhwan.h"
 #include "eclipse/lunar/KhusufSullam.h"
+#include "eclipse/lunar/KhusufSyamsu.h"
 #include "eclipse/solar/KusufSullam.h"
+#include "eclipse/solar/KusufSyamsu.h"
 #include "methods/tahqiqi/Ephemeris.h"
 #include "methods/taqribi/FaidlulKarim.h"
 #include "methods/taqribi/FathurRouf.h"
@@ -81,7 +83,8 @@ const std::vector<EntriModul>& DaftarModul() {
         {"FR", Hs, 7, "HsFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, tabelGerhana(), buat<KhusufFathurRouf>},
         {"IDB1", Hs, 12, "HsIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi,
          tabelGerhana(), buat<KhusufIttifaqDzatilBain>},
-        {"SH", Hs, 20, "HsSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi, {}, nullptr},
+        {"SH", Hs, 20, "HsSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi,
+         tabelBulan({"TRBthMabSH", "TRBSyahruSH", "TRBTaadilSH"}), buat<KhusufSyamsu>},
         {"TZ", Hs, 24, "HsTZ_", "Tadzkirotu al-Ikhwan", "Tadzkirotu al-Ikhwan", Taqribi, tabelGerhana(), buat<KhusufTadzkirotulIkhwan>},
         {"FK", Hs, 28, "HsFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi, tabelGerhana(), buat<KhusufFaidlulKarim>},
         {"IDB2", Hs, 16, "HsIDB2_", "Ittifaq Dzatu al-Bain Tahqiqi", "Ittifaq Dzatu al-Bain (Tahqiqi)", Tahqiqi, {},
@@ -96,7 +99,8 @@ const std::vector<EntriModul>& DaftarModul() {
         {"FR", Kf, 8, "KfFR_", "Fathu al-Ro'uf al-Mannan", "Fathu al-Ro'uf al-Mannan", Taqribi, tabelKusuf(), buat<KusufFathurRouf>},
         {"IDB1", Kf, 13, "KfIDB1_", "Ittifaq Dzatu al-Bain Taqribi", "Ittifaq Dzatu al-Bain (Taqribi)", Taqribi,
          tabelKusuf(), buat<KusufIttifaqDzatilBain>},
-        {"SH", Kf, 21, "KfSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi, {}, nullptr},
+        {"SH", Kf, 21, "KfSH_", "Syamsu al-Hilal", "Syamsu al-Hilal", Taqribi,
+         tabelBulan({"TRBthMabSH", "TRBSyahruSH", "TRBTaadilSH"}), buat<KusufSyamsu>},
         {"TZ", Kf, 25, "KfTZ_", "Tadzkirotu al-Ikhwan", "Tadzkirotu al-Ikhwan", Taqribi, tabelKusuf(), buat<KusufTadzkirotulIkhwan>},
         {"FK", Kf, 29, "KfFK_", "Faidlu al-Karim", "Faidlu al-Karim", Taqribi, tabelKusuf(), buat<KusufFaidlulKarim>},
         {"IDB2", Kf, 17, "KfIDB2_", "Ittifaq Dzatu al-Bain Tahqiqi", "Ittifaq Dzatu al-Bain (Tahqiqi)", Tahqiqi, {},

@@ -140,7 +140,7 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriMo
             hasil.ringkas.push_back({entri, tahun, bulan, tab->kesimpulan, tab->ringkasan, std::nullopt});
         } else {
             siapkan(*entri, tahun, bulan);
-            HasilHitung h = m.Hitung({tahun, static_cast<int16_t>(bulan), false});
+            HasilHitung h = m.Hitung({tahun, static_cast<int16_t>(bulan), false, keluaran == Keluaran::Ringkas});
             catatAwal(*entri, tahun, bulan, h.ringkasan);
             hasil.ringkas.push_back({entri, tahun, bulan, std::move(h.kesimpulan), std::move(h.ringkasan), std::nullopt});
         }

@@ -60,10 +60,11 @@ public:
     // for the twelve months of a year (mnu12BulanSub), and the twelve months by every
     // available treatise. With Keluaran::Lembar each run makes its sheet; with
     // Keluaran::Ringkas no sheet is made or painted and each run leaves its conclusion and
-    // its gist only; either way every run leaves them in `ringkas`. The progress bar
+    // its gist only; with Keluaran::Intisari its gist alone, the conclusion's lines unworded;
+    // every way every run leaves them in `ringkas`. The progress bar
     // (Kemajuan's callback) moves once a run; the stop flag (Kemajuan::berhenti, which another
     // thread may raise) ends the batch between two runs, keeping what was already made.
-    enum class Keluaran { Lembar, Ringkas };
+    enum class Keluaran { Lembar, Ringkas, Intisari };
     struct HasilRun {
         const EntriModul* modul = nullptr;
         int32_t tahun = 0;

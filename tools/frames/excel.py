@@ -203,7 +203,7 @@ def tadil_kusuf():
 
 
 # The books whose eclipses are worked on the taqribi skeleton: their sheets share its layout.
-KERANGKA_GERHANA = ["SN", "FR", "IDB1", "TZ", "FK"]
+KERANGKA_GERHANA = ["SN", "FR", "IDB1", "TZ", "FK", "SH"]
 
 
 def hasil_langkah(kode):

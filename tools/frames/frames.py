@@ -430,7 +430,8 @@ def main():
         "SNGB": khusuf_sullam(),
         "SNGM": kusuf_sullam(),
         "SNTK": koreksi_kusuf(),
-        **{kitab + jenis: buat for kitab in ("FR", "TZ", "IDB1", "FK")
+        # Syamsu al-Hilal's eclipses write their decimals on the same sheets, in Fathu's order.
+        **{kitab + jenis: buat for kitab in ("FR", "TZ", "IDB1", "FK", "SH")
            for jenis, buat in (("GB", khusuf_sullam(fathur=True)), ("GM", kusuf_sullam(fathur=True)),
                                ("TK", koreksi_kusuf()))},
         "BM": tahqiqi(HASIL_BM),

@@ -35,6 +35,7 @@ HERE = os.path.dirname(os.path.abspath(__file__))
 sys.path.insert(0, HERE)
 
 import check_sullam  # noqa: E402
+import gerhana  # noqa: E402
 import model  # noqa: E402
 import tables  # noqa: E402
 
@@ -167,9 +168,88 @@ def tabel_bulan():
     return kepala, [[str(m)] + baris_gerak(Fraction(m)) + baris_gerak(Fraction(2 * m - 1, 2)) for m in range(1, 13)]
 
 
+# --- The eclipse columns -----------------------------------------------------------------------
+# The latitude near the nodes by whole degrees of the Hishshoh's sign: Buruj 0 and 6 from the
+# node (0 to 20), Buruj 5 and 11 up to it (10 to 30, the node at 30).
+DEKAT_SIMPUL = range(0, 21)
+SEBELUM_SIMPUL = range(10, 31)
+# The size tables are scanned from their first row down: the row of latitude b carries the key
+# b + 0.08, so that the first row whose key less (the latitude + 0.04) falls below 0.04 is the
+# first whose latitude lies below the moon's. Rows every hundredth of a degree, from the least
+# latitude that gives no eclipse down to 0.
+LANGKAH_LINTANG = 0.01
+TAMBAH_KUNCI = 0.08
+# The place tables: the latitudes of the places the solar reckoning serves (south, or north
+# read at the opposite longitude), and the distances from the zenith (0 to 90).
+LINTANG_IQLIM = (6, 7, 8)
+JARAK_ZENIT = range(0, 91)
+
+
+def baris_ukuran(hitung):
+    """The rows of a size table: (latitude, fingers, half the eclipse in hours, half the
+    totality in hours), from the least latitude without an eclipse down to 0, by `hitung`
+    (the eclipse at the moon's mean motion for a latitude)."""
+    atas = 0
+    while hitung(atas * LANGKAH_LINTANG)[0] > 0:
+        atas += 1
+    return [(i * LANGKAH_LINTANG,) + tuple(hitung(i * LANGKAH_LINTANG)) for i in range(atas, -1, -1)]
+
+
+def khusuf_rata(lintang):
+    """The lunar eclipse at the moon's mean daily motion: fingers, half duration and half
+    totality in hours."""
+    return gerhana.khusuf(model.MOON_MEAN_MOTION, lintang)
+
+
+def kusuf_rata(lintang):
+    """The solar eclipse at the moon's mean daily motion, the half totality turned to hours."""
+    ashobi, saat, total = gerhana.kusuf(model.MOON_MEAN_MOTION, lintang)
+    return ashobi, saat, total / 60
+
+
+def kolom_gerhana(rows, t):
+    """Adds the eclipse columns to the rows of TRBTaadilSH (a list indexed by Cari)."""
+    o = t["ofset"]
+    for row in rows:
+        c = int(row["Cari"])
+        bujur = putar(c - t["D"])
+        if c % 5 == 0:
+            # The moon's daily motion at the anomaly behind the Khossyoh, by fives as the
+            # hours per degree.
+            row["tdlBuhtu"] = cetak(gerhana.buhtu(putar(c - o["Khossyoh"])))
+        if c in DEKAT_SIMPUL:
+            row["CariDr0_6"], row["ArdHqq0_6"] = str(c), cetak(gerhana.lintang_dekat_simpul(c))
+        if c in SEBELUM_SIMPUL:
+            row["CariDr5_11"], row["ArdHqq5_11"] = str(c), cetak(gerhana.lintang_dekat_simpul(30 - c))
+        if c <= 360:
+            # The ecliptic's point at the longitude behind the key: its declination (north
+            # positive), its distance from the zenith of a place 6, 7 or 8 degrees south, and
+            # the sine of an arc.
+            mail = math.asin(math.sin(model.ZIJ_OBLIQUITY * model.RAD) * math.sin(bujur * model.RAD)) / model.RAD
+            row["MelAsyir"] = cetak(mail)
+            for lintang in LINTANG_IQLIM:
+                row[f"Iqlim{lintang}"] = cetak(abs(mail + lintang))
+            row["JebQous"] = cetak(abs(math.sin(c * model.RAD)))
+        if c in JARAK_ZENIT:
+            row["IkhtilafThul"] = cetak(gerhana.ikhtilaf_thul(c) / 60)
+            row["IkhtilafArdli"] = cetak(gerhana.ikhtilaf_ardli(c) / 60)
+    for kunci, kolom, hitung in (("CariQohArd", ("QodruKhs", "AshobiKhs", "MuktsuKhs"), khusuf_rata),
+                                 ("CariQohArdM", ("QodruKf", "AshobiKf", "MuktsuKf"), kusuf_rata)):
+        for row, (lintang, *nilai) in zip(rows, baris_ukuran(hitung)):
+            row[kunci] = cetak(lintang + TAMBAH_KUNCI)
+            for k, v in zip(kolom, nilai):
+                row[k] = cetak(v)
+
+
+KOLOM_GERHANA = ["tdlBuhtu", "CariDr0_6", "ArdHqq0_6", "CariDr5_11", "ArdHqq5_11", "MelAsyir", "Iqlim6", "Iqlim7",
+                 "Iqlim8", "JebQous", "IkhtilafThul", "IkhtilafArdli", "CariQohArd", "QodruKhs", "AshobiKhs",
+                 "MuktsuKhs", "CariQohArdM", "QodruKf", "AshobiKf", "MuktsuKf"]
+
+
 def tabel_taadil():
     """TRBTaadilSH, one row a whole degree from 0 to 365 (the keys reach 361 and, by fives,
-    365); CariLoop5 stands on the rows whose degree is a multiple of 5."""
+    365); CariLoop5 stands on the rows whose degree is a multiple of 5. The eclipse columns
+    stand on the same rows with keys of their own."""
     t = tetapan()
     o = t["ofset"]
     kepala = ["Cari", "tdlKhosshoh", "TdlMarkaz", "tdlArdluQ", "mnJah", "mn", "CariLoop5", "tdlHisshoh", "tdlMuqowwam"]
@@ -190,8 +270,10 @@ def tabel_taadil():
             row += [str(c), cetak(model.hours_per_degree_ptolemaic(khossyoh)), cetak(t["C_q"] + persamaan)]
         else:
             row += ["", "", ""]
-        rows.append(row)
-    return kepala, rows
+        rows.append(dict(zip(kepala, row)))
+    kolom_gerhana(rows, t)
+    kepala += KOLOM_GERHANA
+    return kepala, [[r.get(k, "") for k in kepala] for r in rows]
 
 
 def ke_csv(kepala, rows):
@@ -247,6 +329,7 @@ def periksa(tabel):
             jam = (float(r["tdlKhosshoh"]) + mr - mq) * float(r["tdlHisshoh"])
             if jam >= 30:
                 salah.append(f"TRBTaadilSH {r['Cari']}: the correction may reach {jam:.1f} hours")
+    salah += periksa_gerhana(taadil)
     # The treatise's step against the modern motion of 360 lunations.
     k = lunasi_awal_tahun(1441)
     sekarang, nanti = ijtima_rata(k), ijtima_rata(k + model.LUNATIONS_PER_GROUP)
@@ -254,6 +337,39 @@ def periksa(tabel):
         beda = selisih_sudut(TIGA_PULUH[e], nanti[e] - sekarang[e])
         if abs(beda) > 0.2:
             salah.append(f"the step of {e} is {beda:+.3f} degrees from the modern motion")
+    return salah
+
+
+def periksa_gerhana(taadil):
+    """Checks of the eclipse columns; returns what is wrong."""
+    salah = []
+
+    def kolom(kunci, nilai):
+        return {int(float(r[kunci]) * 1000 + 0.5) if "." in r[kunci] else int(r[kunci]): r[nilai]
+                for r in taadil if r[kunci]}
+
+    dekat, sebelum = kolom("CariDr0_6", "ArdHqq0_6"), kolom("CariDr5_11", "ArdHqq5_11")
+    # Twelve degrees from the node: asin(sin 5 sin 12) = asin(0.0871557 x 0.2079117) = 1.038
+    # (worked by hand), on either side of it; the node itself has none.
+    if dekat[12] != "1.038" or sebelum[18] != "1.038" or dekat[0] != "0" or sebelum[30] != "0":
+        salah.append("TRBTaadilSH: the latitude near the nodes is not asin(sin 5 sin d)")
+    for kunci, jari, total in (("CariQohArd", "QodruKhs", "MuktsuKhs"), ("CariQohArdM", "QodruKf", "MuktsuKf")):
+        baris = [r for r in taadil if r[kunci]]
+        k = [float(r[kunci]) for r in baris]
+        f = [float(r[jari]) for r in baris]
+        # The scan walks down the latitudes: the keys fall, the fingers grow, the first row has
+        # none and the last is the central eclipse.
+        if k != sorted(k, reverse=True) or f != sorted(f) or f[0] != 0 or k[-1] != TAMBAH_KUNCI:
+            salah.append(f"TRBTaadilSH: {kunci} is not a scan from no eclipse down to a central one")
+        if len(baris) > 400:
+            salah.append(f"TRBTaadilSH: {kunci} has more rows than the scan walks")
+        if kunci == "CariQohArd" and not float(baris[-1][total]) > 0:
+            salah.append("TRBTaadilSH: a central lunar eclipse has no totality")
+    baris = {int(r["Cari"]): r for r in taadil}
+    # The parallax splits as cos and sin of the same distance; the key 90 reads the longitude
+    # 90.389, 0.389 past the solstice: asin(sin 23.5047 cos 0.389) = 23.504.
+    if baris[45]["IkhtilafThul"] != baris[45]["IkhtilafArdli"] or baris[90]["MelAsyir"] != "23.504":
+        salah.append("TRBTaadilSH: the place columns do not hold at 45 and 90 degrees")
     return salah
 
 

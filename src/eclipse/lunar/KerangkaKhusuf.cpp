@@ -1,6 +1,7 @@
 #include "eclipse/lunar/KerangkaKhusuf.h"
 
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "conclusions/Kesimpulan.h"
@@ -130,6 +131,17 @@ void KerangkaKhusuf::FaseKhusuf() {
     HsFaseTotal(5) = kurangAlamah(HsFaseTotal(4), HsFaseTotal(3));
 }
 
+bool KerangkaKhusuf::TahapKhusuf() {
+    for (void (KerangkaKhusuf::*tahap)() : {&KerangkaKhusuf::TaadilKhusuf, &KerangkaKhusuf::QomarKhusuf,
+                                            &KerangkaKhusuf::IstiqbalKhusuf, &KerangkaKhusuf::ArdlKhusuf,
+                                            &KerangkaKhusuf::BuhtuKhusuf, &KerangkaKhusuf::UkuranKhusuf,
+                                            &KerangkaKhusuf::FaseKhusuf}) {
+        (this->*tahap)();
+        k_.kemajuan.langkah();
+    }
+    return true;
+}
+
 std::optional<Nilai> KerangkaKhusuf::awalBulan(int32_t tahun, int16_t bulan) {
     // The ijtima' at the end of the month before opens this month. Fathu's reckoning writes the
     // chosen date of the session; the eclipse run keeps its own.
@@ -151,14 +163,7 @@ HasilHitung KerangkaKhusuf::HitungKhusuf(int32_t tahun, int16_t bulan, bool lemb
         return h;
     }
     const auto awal = awalBulan(tahun, bulan);
-    for (void (KerangkaKhusuf::*tahap)() : {&KerangkaKhusuf::TaadilKhusuf, &KerangkaKhusuf::QomarKhusuf,
-                                            &KerangkaKhusuf::IstiqbalKhusuf, &KerangkaKhusuf::ArdlKhusuf,
-                                            &KerangkaKhusuf::BuhtuKhusuf, &KerangkaKhusuf::UkuranKhusuf,
-                                            &KerangkaKhusuf::FaseKhusuf}) {
-        (this->*tahap)();
-        maju.langkah();
-    }
-    if (!UjiMalam(HsFase(3), HsFase(4)) || !awal) {
+    if (!TahapKhusuf() || !UjiMalam(HsFase(3), HsFase(4)) || !awal) {
         maju.penuh();
         return h;
     }
@@ -242,11 +247,13 @@ void KerangkaKhusuf::tulisSel(ClsFlexGrid& g) {
         for (auto [baris, row] : {std::pair{3, &HsMajmu}, {4, &HsMabsut}, {5, &HsSyahr}, {6, &HsJumlah}})
             g.FlexData((*row)(k), baris, c, k == 1 ? std::initializer_list<int>{10, 11, 12, T}
                                                     : std::initializer_list<int>{1, 2, 3, T});
-    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan) {
-        for (size_t k = 1; k <= row.ukuran(); ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
+    // A row's cells down one column; of the sun's row only those its form fills.
+    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan,
+                           size_t n = std::decay_t<decltype(row)>::ukuran()) {
+        for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
     };
     kolom(HsQomar, 8, 37, lima);
-    kolom(HsSyams, 14, 37, lima);
+    kolom(HsSyams, 14, 37, lima, selMatahari_ + 1);
     kolom(HsSaah, 20, 37, lima);
     kolom(HsIstiqbal, 25, 37, waktu);
     kolom(HsArdl, 36, 37, lima);

@@ -71,6 +71,11 @@ public:
 protected:
     KerangkaKhusuf(Konteks k, const DataGerhana& data);
 
+    // The stages from the ta'dil to the phases; false when the month turns out to hold no
+    // eclipse after all. A book that reckons in decimals works them its own way and leaves
+    // its results in these rows.
+    virtual bool TahapKhusuf();
+
     Konteks k_;
 
 private:

@@ -1,6 +1,7 @@
 #include "eclipse/solar/KerangkaKusuf.h"
 
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "conclusions/Kesimpulan.h"
@@ -176,22 +177,26 @@ bool KerangkaKusuf::UkuranKusuf() {
     t.TaadilKusfGanda(KfSaatKusf.semua(), 36, KfTdlBuhtu(5), KfJumlahArdl(1));
     t.TaadilKusfGanda(KfMuktsu.semua(), 37, KfTdlBuhtu(5), KfJumlahArdl(1));
 
+    // A moon slower than 12 degrees a day is too far to cover the sun.
+    if (AmbilTingkat(KfMuktsu(13), MedanDarojah) < 12) KfMuktsu(11) = busur(0, 0, 0);
     KfFase(1) = KfIjtima(5);
+    FaseKusuf();
+    return true;
+}
+
+void KerangkaKusuf::FaseKusuf() {
     KfFase(4) = CUmumToAlamah(KfSaatKusf(11), false);
     KfFase(2) = kurangAlamah(KfFase(1), KfFase(4));
     KfFase(3) = tambahAlamah(KfFase(1), KfFase(4));
     KfFase(4) = kurangAlamah(KfFase(3), KfFase(2));
-    // A moon slower than 12 degrees a day is too far to cover the sun.
-    if (AmbilTingkat(KfMuktsu(13), MedanDarojah) < 12) KfMuktsu(11) = busur(0, 0, 0);
     if (NilaiDesimal(JenisBusur, KfMuktsu(11)) == 0.0) {
         for (size_t i = 1; i <= 4; ++i) KfFaseTotal(i) = alamahNol();
-        return true;
+        return;
     }
     KfFaseTotal(1) = CUmumToAlamah(KfMuktsu(11), false);
     KfFaseTotal(2) = kurangAlamah(KfFase(1), KfFaseTotal(1));
     KfFaseTotal(3) = tambahAlamah(KfFase(1), KfFaseTotal(1));
     KfFaseTotal(4) = kurangAlamah(KfFaseTotal(3), KfFaseTotal(2));
-    return true;
 }
 
 HasilHitung KerangkaKusuf::HitungKusuf(int32_t tahun, int16_t bulan, bool lembar) {
@@ -204,21 +209,7 @@ HasilHitung KerangkaKusuf::HitungKusuf(int32_t tahun, int16_t bulan, bool lembar
     };
     PokokKusuf(tahun, bulan);
     maju.langkah();
-    if (!UjiHishshoh(KfJumlah(2))) return berhenti();
-    for (void (KerangkaKusuf::*tahap)() :
-         {&KerangkaKusuf::TaadilKusuf, &KerangkaKusuf::QomarKusuf, &KerangkaKusuf::IjtimaKusuf}) {
-        (this->*tahap)();
-        maju.langkah();
-    }
-    if (!UjiSiang(KfIjtima(5))) return berhenti();
-    ArdlKusuf();
-    BuhtuKusuf();
-    maju.langkah();
-    if (!UjiHishshoh(KfArdl(7))) return berhenti();
-    MatholiKusuf();
-    MarkazKusuf();
-    maju.langkah();
-    if (!UkuranKusuf()) return berhenti();
+    if (!UjiHishshoh(KfJumlah(2)) || !TahapKusuf()) return berhenti();
     const Nilai hari = HariIjtimaTaqribi(k_, KfIjtima(5));
     if (hari.kosongTeks()) return berhenti();
     h.gerhana.emplace();
@@ -232,6 +223,24 @@ HasilHitung KerangkaKusuf::HitungKusuf(int32_t tahun, int16_t bulan, bool lembar
         h.baris = baris();
     }
     return berhenti();
+}
+
+bool KerangkaKusuf::TahapKusuf() {
+    Kemajuan& maju = k_.kemajuan;
+    for (void (KerangkaKusuf::*tahap)() :
+         {&KerangkaKusuf::TaadilKusuf, &KerangkaKusuf::QomarKusuf, &KerangkaKusuf::IjtimaKusuf}) {
+        (this->*tahap)();
+        maju.langkah();
+    }
+    if (!UjiSiang(KfIjtima(5))) return false;
+    ArdlKusuf();
+    BuhtuKusuf();
+    maju.langkah();
+    if (!UjiHishshoh(KfArdl(7))) return false;
+    MatholiKusuf();
+    MarkazKusuf();
+    maju.langkah();
+    return UkuranKusuf();
 }
 
 void KerangkaKusuf::KesimpulanKusuf(HasilHitung& h) {
@@ -289,11 +298,13 @@ void KerangkaKusuf::IsiTabelKusuf(ClsFlexGrid& g) {
         for (auto [b, row] : {std::pair{3, &KfMajmu}, {4, &KfMabsut}, {5, &KfSyahr}, {6, &KfJumlah}})
             g.FlexData((*row)(k), b, c, k == 1 ? std::initializer_list<int>{10, 11, 12, T}
                                                 : std::initializer_list<int>{1, 2, 3, T});
-    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan) {
-        for (size_t k = 1; k <= row.ukuran(); ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
+    // A row's cells down one column; of the sun's row only those its form fills.
+    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan,
+                           size_t n = std::decay_t<decltype(row)>::ukuran()) {
+        for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
     };
     kolom(KfQomar, 8, 37, lima);
-    kolom(KfSyams, 14, 37, lima);
+    kolom(KfSyams, 14, 37, lima, selMatahari_);
     kolom(KfSaah, 19, 37, lima);
     kolom(KfIjtima, 24, 37, waktu);
     kolom(KfArdl, 29, 37, lima);

@@ -46,6 +46,9 @@ public:
     // False when the place sees no eclipse (the latitude lies beyond the double table, or the
     // table gives it no finger).
     bool UkuranKusuf();
+    // The partial and total phases about the middle KfFase(1), from the half duration
+    // KfSaatKusf(11) and the half totality KfMuktsu(11) (none when zero).
+    void FaseKusuf();
 
     // The node tests, the first and the third: within 6 degrees of a node.
     static bool UjiHishshoh(const Nilai& hishshoh);
@@ -84,6 +87,11 @@ public:
 
 protected:
     KerangkaKusuf(Konteks k, const DataGerhana& data);
+
+    // The stages after the first test, with the second and third tests, up to the phases;
+    // false when a test fails or the place sees no eclipse. A book that reckons in decimals
+    // works them its own way and leaves its results in these rows.
+    virtual bool TahapKusuf();
 
     Konteks k_;
 

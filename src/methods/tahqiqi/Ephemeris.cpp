@@ -640,7 +640,7 @@ void Ephemeris::HilalER() {
     R[49] = atanD(R[46] / R[41]);
 }
 
-void Ephemeris::KesimpulanER(HasilHitung& h) {
+void Ephemeris::KesimpulanER(HasilHitung& h, bool kata) {
     const auto& R = ERHasil;
     const Tempat& t = k_.sesi.tempat;
     BahanKesimpulanTahqiqi b;
@@ -665,6 +665,7 @@ void Ephemeris::KesimpulanER(HasilHitung& h) {
     b.mukts = R[42];
     b.nur = R[48];
     // The reckoning is made at the place itself: it is its own markaz.
+    b.kata = kata;
     b.markaz = {t.nama.c_str(), t.lintangDerajat, t.lintangMenit, static_cast<int>(ValAngka(t.tandaLintang)),
                 t.bujurDerajat, t.bujurMenit, static_cast<int>(ValAngka(t.tandaBujur))};
     TulisKesimpulanTahqiqi(k_, b, h.kesimpulan, h.ringkasan);
@@ -724,7 +725,7 @@ LembarRumus Ephemeris::RumusER() {
     return a ? BangunRumus(*a, k_.koneksi.TQQRumuz, nilai) : LembarRumus();
 }
 
-HasilHitung Ephemeris::HitungIjtimaER(int32_t tahun, int16_t bulan, bool lembar) {
+HasilHitung Ephemeris::HitungIjtimaER(int32_t tahun, int16_t bulan, bool lembar, bool kata) {
     Kemajuan& maju = k_.kemajuan;
     HasilHitung h;
     maju.mulai(kLangkah);
@@ -734,7 +735,7 @@ HasilHitung Ephemeris::HitungIjtimaER(int32_t tahun, int16_t bulan, bool lembar)
     maju.langkah();
     HilalER();
     maju.langkah();
-    KesimpulanER(h);
+    KesimpulanER(h, kata);
     maju.langkah();
     if (lembar) {
         ClsFlexGrid g(&h.lembarBaru(""));

@@ -71,9 +71,9 @@ class Ephemeris : public Modul {
 public:
     explicit Ephemeris(Konteks k);
 
-    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaER(p.tahun, p.bulan, p.lembar); }
+    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaER(p.tahun, p.bulan, p.lembar, p.kata); }
 
-    HasilHitung HitungIjtimaER(int32_t tahun, int16_t bulan, bool lembar = true);
+    HasilHitung HitungIjtimaER(int32_t tahun, int16_t bulan, bool lembar = true, bool kata = true);
     // The stages, in order; each reads what the one before it wrote.
     // semuaJam: the whole hourly table, as the sheet shows it; else only the hours needed.
     void HisabER(int32_t tahun, int16_t bulan, bool semuaJam = true);
@@ -82,7 +82,7 @@ public:
     void IjtimaER();
     void GhurubER();
     void HilalER();
-    void KesimpulanER(HasilHitung& h);
+    void KesimpulanER(HasilHitung& h, bool kata = true);
     void IsiTabelER(ClsFlexGrid& g);
     // The formula sheet of the run: the results as values, one row of TQQRumuz a step.
     LembarRumus RumusER();

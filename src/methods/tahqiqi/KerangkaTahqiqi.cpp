@@ -399,6 +399,7 @@ HasilHitung KerangkaTahqiqi::Hitung(const Permintaan& p) {
     b.mukts = muktsHilal();
     b.nur = nurHilal();
     b.markaz = data_.markaz;
+    b.kata = p.kata;
     TulisKesimpulanTahqiqi(k_, b, h.kesimpulan, h.ringkasan);
     maju.langkah();
     if (p.lembar) {

@@ -28,6 +28,9 @@ void TulisKesimpulanTahqiqi(Konteks& k, const BahanKesimpulanTahqiqi& b, std::ve
     const Nilai hariZona = ClsKesimpulan::GeserHari(hari, static_cast<int>(geser));
     const std::string jam = ks.JamIjtimaTQQ(b.jamIjtima.format("hh:mm:ss"), zona.format("hh:mm:ss"));
     const Nilai tinggi = NilaiDariDesimal(b.tinggi);
+    ringkasan = {hariNama, malam, hariZona, jam, tinggi, b.hari.awal};
+    baris.clear();
+    if (!b.kata) return;
 
     baris.assign(13, std::string());
     baris[0] = b.judul;
@@ -45,7 +48,6 @@ void TulisKesimpulanTahqiqi(Konteks& k, const BahanKesimpulanTahqiqi& b, std::ve
     baris[10] = s.labelKe(12) + gurub;
     baris[11] = s.labelKe(14) + ClsKesimpulan::barisMarkaz(b.markaz);
     baris[12] = s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat);
-    ringkasan = {hariNama, malam, hariZona, jam, tinggi, b.hari.awal};
 }
 
 }  // namespace falak

@@ -29,6 +29,7 @@ struct BahanKesimpulanTahqiqi {
     double mukts = 0;       // the hilal's stay, hours
     double nur = 0;         // the hilal's light, fingers
     TitikMarkaz markaz{};
+    bool kata = true;  // word the lines; else the gist alone
 };
 
 // A decimal as a value of open degrees, its sign in the flag (the conclusion's wordings

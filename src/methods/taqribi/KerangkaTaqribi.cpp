@@ -222,7 +222,7 @@ void KerangkaTaqribi::kosongkanBaris() {
     Nur = {};
 }
 
-void KerangkaTaqribi::KesimpulanFR(HasilHitung& h) {
+void KerangkaTaqribi::KesimpulanFR(HasilHitung& h, bool kata) {
     const HariHasil hari = hariHasil();
     BahanKesimpulan b;
     b.judul = judulKesimpulan();
@@ -236,6 +236,7 @@ void KerangkaTaqribi::KesimpulanFR(HasilHitung& h) {
     b.gurubHariIjtima = data_.gurubHariIjtima;
     b.malam = malamIjtima();
     b.markaz = data_.markazKesimpulan;
+    b.kata = kata;
     TulisKesimpulanTaqribi(k_, b, h.kesimpulan, h.ringkasan);
 }
 
@@ -286,12 +287,12 @@ void KerangkaTaqribi::tulisSel(ClsFlexGrid& g) {
     tulisSelTambahan(g);
 }
 
-HasilHitung KerangkaTaqribi::HitungIjtimaFR(int32_t tahun, int16_t bulan, bool lembar) {
+HasilHitung KerangkaTaqribi::HitungIjtimaFR(int32_t tahun, int16_t bulan, bool lembar, bool kata) {
     Kemajuan& maju = k_.kemajuan;
     HasilHitung h;
     maju.mulai(kLangkah);
     hitungTahap(tahun, bulan);
-    KesimpulanFR(h);
+    KesimpulanFR(h, kata);
     maju.langkah();
     if (lembar) {
         ClsFlexGrid g(&h.lembarBaru(""));

@@ -115,13 +115,13 @@ TahunTerbagi HitungPokokFR(Konteks& k, const DataKitabFR& data, int32_t tahun, i
 
 class KerangkaTaqribi : public Modul {
 public:
-    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaFR(p.tahun, p.bulan, p.lembar); }
+    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaFR(p.tahun, p.bulan, p.lembar, p.kata); }
     std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override { return AwalBulanFR(tahun, bulan); }
     std::vector<BarisTercatat> baris() const;
 
     // The whole run: the stages, the conclusion and, with lembar, the frame and the cells of
     // the sheet.
-    HasilHitung HitungIjtimaFR(int32_t tahun, int16_t bulan, bool lembar = true);
+    HasilHitung HitungIjtimaFR(int32_t tahun, int16_t bulan, bool lembar = true, bool kata = true);
     // The first of the month: stores the year and month in the chosen date, runs the five
     // reckoning stages without any sheet, and returns the day of the ijtima' advanced by 25
     // hours, or 49 when the hilal stands below 2 degrees (a date value whose hour reads 01).
@@ -134,7 +134,7 @@ public:
     virtual void QomarFR();
     virtual void IjtimaFR();
     virtual void HilalFR();
-    void KesimpulanFR(HasilHitung& h);
+    void KesimpulanFR(HasilHitung& h, bool kata = true);
     void IsiTabelFR(ClsFlexGrid& g);
 
     const DataKitabFR& data() const { return data_; }

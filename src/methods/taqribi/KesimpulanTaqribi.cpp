@@ -38,12 +38,21 @@ void TulisKesimpulanTaqribi(Konteks& k, const BahanKesimpulan& b, std::vector<st
     // An evening on the eve of a day is the evening of the civil day before it.
     const Nilai hariSipil = malam && jamJam >= 12 ? ClsKesimpulan::GeserHari(b.hariIjtima, -1) : b.hariIjtima;
 
+    const std::string menit = std::to_string(AmbilTingkat(b.ijtima, MedanMenit));
+    const std::string jam = ks.JamIjtima(jamIjtima, menit, hariSipil);
+    // The zone's clock may pass midnight either way from the local apparent one.
+    const Waktu zona = ks.keZona(AmbilTingkat(hariSipil, MedanBulan), AmbilTingkat(hariSipil, MedanTanggal),
+                                 Waktu::dari(jamJam, ValAngka(menit), 0));
+    const int64_t geser = zona.detik() < 0 ? -1 : zona.detik() / 86400;
+    const Nilai tanggalZona = hariSipil.kosongTeks() ? hariSipil : ClsKesimpulan::GeserHari(hariSipil, static_cast<int>(geser));
+    ringkasan = {b.hariIjtima, malam, tanggalZona, jam, b.tinggi, b.awalBulan};
+    baris.clear();
+    if (!b.kata) return;
+
     baris.assign(13, std::string());
     baris[0] = b.judul;
     baris[1] = s.labelKe(0) + ks.FullM(b.awalBulan, "17", true);
     baris[2] = s.labelKe(1) + ks.FullM(b.hariIjtima, malam ? "18" : "17", false);
-    const std::string menit = std::to_string(AmbilTingkat(b.ijtima, MedanMenit));
-    const std::string jam = ks.JamIjtima(jamIjtima, menit, hariSipil);
     baris[3] = s.labelKe(2) + jam;
     baris[4] = s.labelKe(3) + ks.SaatuMaghribS(b.matahari);
     baris[5] = s.labelKe(6) + ks.ArahHilal(b.matahari);
@@ -56,12 +65,6 @@ void TulisKesimpulanTaqribi(Konteks& k, const BahanKesimpulan& b, std::vector<st
     baris[10] = s.labelKe(12) + gurub;
     baris[11] = s.labelKe(14) + ClsKesimpulan::barisMarkaz(b.markaz);
     baris[12] = s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat);
-    // The zone's clock may pass midnight either way from the local apparent one.
-    const Waktu zona = ks.keZona(AmbilTingkat(hariSipil, MedanBulan), AmbilTingkat(hariSipil, MedanTanggal),
-                                 Waktu::dari(jamJam, ValAngka(menit), 0));
-    const int64_t geser = zona.detik() < 0 ? -1 : zona.detik() / 86400;
-    const Nilai tanggalZona = hariSipil.kosongTeks() ? hariSipil : ClsKesimpulan::GeserHari(hariSipil, static_cast<int>(geser));
-    ringkasan = {b.hariIjtima, malam, tanggalZona, jam, b.tinggi, b.awalBulan};
 }
 
 }  // namespace falak

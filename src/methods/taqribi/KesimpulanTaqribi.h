@@ -29,6 +29,7 @@ struct BahanKesimpulan {
     // its clock reads 18 hours or later, the sunset of the books that fix it there.
     std::optional<bool> malam;
     TitikMarkaz markaz{};
+    bool kata = true;  // word the lines; else the gist alone
 };
 
 // The civil date of the ijtima': the day of the chosen Hijri month that falls on the reckoned
@@ -42,7 +43,8 @@ Nilai AwalBulanTaqribi(const Nilai& hariIjtima, double tinggi);
 // 25 hours, or 49 (a date value whose hour reads 01); none without a day of the ijtima'.
 std::optional<Nilai> AwalBulanJam(const Nilai& hariIjtima, double tinggi);
 
-// Writes the lines, the heading first, and the gist of the run.
+// Writes the lines, the heading first (none when the run asks for no words), and the gist of
+// the run.
 void TulisKesimpulanTaqribi(Konteks& k, const BahanKesimpulan& bahan, std::vector<std::string>& baris,
                             Ringkasan& ringkasan);
 

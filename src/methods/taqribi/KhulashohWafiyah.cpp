@@ -2,6 +2,7 @@
 
 #include "conclusions/Kesimpulan.h"
 #include "core/FungsHisab.h"
+#include "core/Koneksi.h"
 #include "methods/LangkahTaqribi.h"
 #include "methods/taqribi/KesimpulanTaqribi.h"
 
@@ -31,6 +32,24 @@ const DataKitabFR kKhulashohWafiyah = {
 
 KhulashohWafiyah::KhulashohWafiyah(Konteks k) : KerangkaTaqribi(k, kKhulashohWafiyah) {}
 
+void KhulashohWafiyah::PokokFR(int32_t tahun, int16_t bulan) {
+    KerangkaTaqribi::PokokFR(tahun, bulan);
+    Tabel& syahru = k_.koneksi.TRBSyahru;
+    if (!syahru.cari("Cari", bulan)) {
+        SyahrGB = {};
+        return;
+    }
+    const auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, std::string(kolom) + "GB"); };
+    SyahrGB(1) = AlamahTarkh(JenisAlamah, {"0", "0", "0", "0", sel("alHari"), sel("alSah"), sel("alQoh"), "0", "0"}, 1)
+                     .value_or(Nilai());
+    size_t i = 2;
+    for (const char* unsur : {"ws", "ks", "mr"}) {
+        const std::string u(unsur);
+        SyahrGB(i++) =
+            DlorbuSittin(sel(u + "Brj"), sel(u + "Jah"), sel(u + "Qoh"), "0", "0", 1, ModusBuruj).value_or(Nilai());
+    }
+}
+
 void KhulashohWafiyah::HilalFR() {
     // The sunset of the civil day from whose noon the ijtima's hours run, in hours from noon.
     std::string gurub, terbit;
@@ -59,6 +78,10 @@ Nilai KhulashohWafiyah::ijtimaSejakMaghrib() const {
     if (hariBerikut == hariBerikutJam18) return v;
     return hariBerikut ? TambahNilai(JenisAlamah, TandaPlus, ModusBuruj, v, satuHari)
                        : KurangNilai(JenisAlamah, TandaPlus, ModusBuruj, v, satuHari);
+}
+
+void KhulashohWafiyah::catatTambahan(std::vector<BarisTercatat>& baris) const {
+    baris.push_back(catat("SyahrGB", SyahrGB));
 }
 
 std::optional<bool> KhulashohWafiyah::malamIjtima() const {

@@ -15,11 +15,19 @@ class KhulashohWafiyah : public KerangkaTaqribi {
 public:
     explicit KhulashohWafiyah(Konteks k);
 
+    // The rows of the years and the month, and beside them the month row of the full moon.
+    void PokokFR(int32_t tahun, int16_t bulan) override;
     void HilalFR() override;
     Nilai ijtimaSejakMaghrib() const override;
 
+    // The month in the eclipse form: the motion to the full moon in the middle of the month
+    // (the GB columns of TRBSyahru), in the four cells of the other rows: alamah, Wasath,
+    // Khossyoh, Markaz. Zero for a month the table lacks.
+    Baris<4> SyahrGB;
+
 protected:
     std::optional<bool> malamIjtima() const override;
+    void catatTambahan(std::vector<BarisTercatat>& baris) const override;
 
 private:
     bool sesudahGurub_ = false;  // the ijtima' falls after the sunset of the day from whose noon it counts

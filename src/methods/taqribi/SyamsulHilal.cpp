@@ -51,7 +51,7 @@ Nilai keNilai(float x, int tanda = 1) {
 
 }  // namespace
 
-void SyamsulHilal::PokokSH(int32_t tahun, int16_t bulan) {
+void SyamsulHilal::PokokSH(int32_t tahun, int16_t bulan, bool purnama) {
     SHBulan = bulan;
     const int64_t y = static_cast<int64_t>(tahun) - 1;
     const Unsur* langkah;
@@ -89,7 +89,8 @@ void SyamsulHilal::PokokSH(int32_t tahun, int16_t bulan) {
         for (size_t i = 0; i < 6; ++i) bacaDesimal(t, kKolomTahun[i], SHMabsut(i + 1));
     }
     if (Tabel& t = k_.koneksi.TRBSyahruSH; t.cari("Cari", SHBulan)) {
-        for (size_t i = 0; i < 6; ++i) bacaDesimal(t, kKolomTahun[i], SHSyahr(i + 1));
+        for (size_t i = 0; i < 6; ++i)
+            bacaDesimal(t, std::string(kKolomTahun[i]) + (purnama ? "GB" : ""), SHSyahr(i + 1));
     }
 
     SHJumlah(2) = JumlahSH(-1, SHMajmu(1), SHMabsut(1), SHSyahr(1), SHMajmu(2), SHMabsut(2), SHSyahr(2), SHHariText);
@@ -194,7 +195,7 @@ void SyamsulHilal::HilalSH() {
     SHHilal(10) = HitungSH(-1, 1, 0, SHHilal(8), 0, SHHilal(9), SHHariText);
 }
 
-void SyamsulHilal::KesimpulanSH(HasilHitung& h) {
+void SyamsulHilal::KesimpulanSH(HasilHitung& h, bool kata) {
     BahanKesimpulan b;
     b.judul = k_.sesi.namaKitab;
     b.ijtima = SHIjtimaAlamah;
@@ -206,6 +207,7 @@ void SyamsulHilal::KesimpulanSH(HasilHitung& h) {
     b.nur = keNilai(SHHilal(9), SHHilal(9) > 180 ? 0 : 1);
     // The markaz line as the treatise's writer has it, its latitude flagged 1.
     b.markaz = {"Jepara", 6, 36, 1, kBujurMarkazDerajat, kBujurMarkazMenit, 1};
+    b.kata = kata;
     TulisKesimpulanTaqribi(k_, b, h.kesimpulan, h.ringkasan);
 }
 
@@ -258,8 +260,8 @@ void SyamsulHilal::tulisSel(ClsFlexGrid& g) {
     g.FlexTeks(SHNamaManzil, 18, 9);
 }
 
-void SyamsulHilal::IjtimaSajaSH(int32_t tahun, int16_t bulan) {
-    PokokSH(tahun, bulan);
+void SyamsulHilal::IjtimaSajaSH(int32_t tahun, int16_t bulan, bool purnama) {
+    PokokSH(tahun, bulan, purnama);
     TaadilSH();
     QomarSH();
     BudSH();
@@ -276,7 +278,7 @@ std::optional<Nilai> SyamsulHilal::AwalBulan(int32_t tahun, int16_t bulan) {
     return AwalBulanJam(HariIjtimaTaqribi(k_, SHIjtimaAlamah), SHHilal(5));
 }
 
-HasilHitung SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar) {
+HasilHitung SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar, bool kata) {
     Kemajuan& maju = k_.kemajuan;
     HasilHitung h;
     maju.mulai(kLangkah);
@@ -288,7 +290,7 @@ HasilHitung SyamsulHilal::HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lemb
         (this->*tahap)();
         maju.langkah();
     }
-    KesimpulanSH(h);
+    KesimpulanSH(h, kata);
     maju.langkah();
     if (lembar) {
         ClsFlexGrid g(&h.lembarBaru(""));

@@ -32,7 +32,7 @@ class SyamsulHilal : public Modul {
 public:
     explicit SyamsulHilal(Konteks k) : k_(k) {}
 
-    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaSH(p.tahun, p.bulan, p.lembar); }
+    HasilHitung Hitung(const Permintaan& p) override { return HitungIjtimaSH(p.tahun, p.bulan, p.lembar, p.kata); }
     // The day of the ijtima' advanced by 25 hours, or 49 when the hilal stands below 2 degrees.
     std::optional<Nilai> AwalBulan(int32_t tahun, int16_t bulan) override;
     std::vector<BarisTercatat> baris() const;
@@ -40,12 +40,14 @@ public:
     // The whole run: the stages and the conclusion; with lembar then the frame, the rounding
     // of the rows to three decimals and the cells of the sheet. Only a run with its sheet
     // rounds its rows.
-    HasilHitung HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar = true);
-    // The stages from the year split to the ijtima' only, without words or sheet.
-    void IjtimaSajaSH(int32_t tahun, int16_t bulan);
+    HasilHitung HitungIjtimaSH(int32_t tahun, int16_t bulan, bool lembar = true, bool kata = true);
+    // The stages from the year split to the ijtima' only, without words or sheet. With
+    // purnama the month row is the full moon in the middle of the month (its GB columns), and
+    // the rows reach the istiqbal instead: the lunar eclipse stands on them.
+    void IjtimaSajaSH(int32_t tahun, int16_t bulan, bool purnama = false);
 
     // The stages, in this order; each reads what the one before it wrote.
-    void PokokSH(int32_t tahun, int16_t bulan);
+    void PokokSH(int32_t tahun, int16_t bulan, bool purnama = false);
     void TaadilSH();
     void QomarSH();
     void BudSH();
@@ -54,7 +56,7 @@ public:
     void SaahSH();
     void IjtimaSH();
     void HilalSH();
-    void KesimpulanSH(HasilHitung& h);
+    void KesimpulanSH(HasilHitung& h, bool kata = true);
     void IsiTabelSH(ClsFlexGrid& g);
     // Every cell of the rows kept to three decimals, through the text "0.000".
     void TigaDesimalSH();
