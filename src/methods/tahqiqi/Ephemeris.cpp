@@ -14,6 +14,7 @@
 #include "core/Maghrib.h"
 #include "core/Sesi.h"
 #include "methods/Lembar.h"
+#include "methods/tahqiqi/HilalTahqiqi.h"
 #include "methods/tahqiqi/KesimpulanTahqiqi.h"
 #include "methods/taqribi/KesimpulanTaqribi.h"
 
@@ -274,14 +275,9 @@ double azimut(double delta, double t, double phi) {
     return a >= 0 ? 90 - a : -90 - a;
 }
 
-double selisihBusur(double a, double b) {
-    // The short way round from b to a, so that an hour in which a body passes 0° reads as the
-    // fraction of a degree it is, not as nearly a whole circle.
-    double d = std::fmod(a - b, 360.0);
-    if (d >= 180) d -= 360;
-    if (d < -180) d += 360;
-    return d;
-}
+// An hour in which a body passes 0° reads as the fraction of a degree it is, not as nearly a
+// whole circle.
+using hilal::selisihBusur;
 
 }  // namespace
 
