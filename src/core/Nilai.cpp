@@ -1,5 +1,6 @@
 #include "core/Nilai.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cstdlib>
 
@@ -15,7 +16,9 @@ int32_t bacaMedan(std::string_view medan) {
     // Most fields are short runs of digits: read them directly.
     const bool negatif = !medan.empty() && medan.front() == '-';
     const std::string_view digit = negatif ? medan.substr(1) : medan;
-    if (!digit.empty() && digit.size() <= 9 && digit.find_first_not_of("0123456789") == std::string_view::npos) {
+    // (A plain loop: a search for any of ten characters asks the library once per character.)
+    if (!digit.empty() && digit.size() <= 9 &&
+        std::all_of(digit.begin(), digit.end(), [](char c) { return c >= '0' && c <= '9'; })) {
         int32_t v = 0;
         for (char c : digit) v = v * 10 + (c - '0');
         return negatif ? -v : v;
