@@ -63,6 +63,19 @@ void SalinBarisSH(const SyamsulHilal& sh, std::span<Nilai, 5> majmu, std::span<N
     salin(sh.SHJumlah, jumlah);
 }
 
+void SalinTaadilSH(const SyamsulHilal& sh, const BarisTaadilSH& ke) {
+    ke.khossyoh[4] = NilaiSH(sh.SHTdlKhossyoh);
+    ke.markaz[4] = NilaiSH(sh.SHTdlMarkaz);
+    ke.hishshoh[4] = NilaiSH(sh.SHTdlHishshoh);
+    ke.daqoiq[4] = NilaiSH(sh.SHTdlMuqowwam);
+    for (size_t i = 1; i <= 3; ++i) ke.qomar[i - 1] = NilaiSH(sh.SHQomar(i));
+    for (size_t i = 4; i <= 6; ++i) ke.qomar[i - 1] = NilaiSH(sh.SHQomar(i + 1));
+    ke.syams[0] = NilaiSH(sh.SHJumlah(4));
+    ke.syams[1] = NilaiSH(sh.SHBud(1));
+    ke.syams[2] = NilaiSH(sh.SHBud(2));
+    for (size_t i = 1; i <= 5; ++i) ke.saah[i - 1] = NilaiSH(sh.SHSaah(i));
+}
+
 std::optional<float> BacaSH(Tabel& t, std::string_view kunci, float x, std::string_view kolom) {
     const auto k = KunciSH(x);
     if (!k || !t.cari(kunci, *k)) return std::nullopt;

@@ -33,6 +33,17 @@ float PutarSH(float x);
 void SalinBarisSH(const SyamsulHilal& sh, std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut,
                   std::span<Nilai, 5> syahr, std::span<Nilai, 5> jumlah);
 
+// The equation rows (Khossyoh, Markaz, Hishshoh, daqa'iq), the moon's six cells, the sun's
+// first three (its place, the Bu'd and the moon's distance from it) and the five hours, as both
+// eclipses show them from the month reckoning.
+struct BarisTaadilSH {
+    std::span<Nilai, 5> khossyoh, markaz, hishshoh, daqoiq;
+    std::span<Nilai, 6> qomar;
+    std::span<Nilai> syams;
+    std::span<Nilai, 5> saah;
+};
+void SalinTaadilSH(const SyamsulHilal& sh, const BarisTaadilSH& ke);
+
 // The moon's latitude (its size, degrees) at this Hishshoh: Buruj 0 and 6 by the degrees past
 // the node, Buruj 5 and 11 by the degrees of the sign up to it. None beyond the rows, where
 // the moon stands too far from the node for any eclipse.

@@ -64,17 +64,9 @@ void KhusufSyamsu::istiqbal() {
 bool KhusufSyamsu::TahapKhusuf() {
     const SyamsulHilal& s = sh_;
     Tabel& t = k_.koneksi.TRBTaadilSH;
-    HsTdlKs(5) = NilaiSH(s.SHTdlKhossyoh);
-    HsTdlMr(5) = NilaiSH(s.SHTdlMarkaz);
-    HsTdlHs(5) = NilaiSH(s.SHTdlHishshoh);
-    HsTdlDq(5) = NilaiSH(s.SHTdlMuqowwam);
-    for (size_t i = 1; i <= 3; ++i) HsQomar(i) = NilaiSH(s.SHQomar(i));
-    for (size_t i = 4; i <= 6; ++i) HsQomar(i) = NilaiSH(s.SHQomar(i + 1));
-    HsSyams(1) = NilaiSH(s.SHJumlah(4));
-    HsSyams(2) = NilaiSH(s.SHBud(1));
-    HsSyams(3) = NilaiSH(s.SHBud(2));
+    SalinTaadilSH(s, {HsTdlKs.semua(), HsTdlMr.semua(), HsTdlHs.semua(), HsTdlDq.semua(), HsQomar.semua(),
+                      HsSyams.semua(), HsSaah.semua()});
     HsSyams(4) = NilaiSH(PutarSH(s.SHBud(2) + 180.0f));
-    for (size_t i = 1; i <= 5; ++i) HsSaah(i) = NilaiSH(s.SHSaah(i));
     istiqbal();
     k_.kemajuan.langkah();
 

@@ -61,16 +61,8 @@ bool KusufSyamsu::TahapKusuf() {
     const SyamsulHilal& s = sh_;
     Tabel& t = k_.koneksi.TRBTaadilSH;
     Kemajuan& maju = k_.kemajuan;
-    KfTdlKs(5) = NilaiSH(s.SHTdlKhossyoh);
-    KfTdlMr(5) = NilaiSH(s.SHTdlMarkaz);
-    KfTdlHs(5) = NilaiSH(s.SHTdlHishshoh);
-    KfTdlDq(5) = NilaiSH(s.SHTdlMuqowwam);
-    for (size_t i = 1; i <= 3; ++i) KfQomar(i) = NilaiSH(s.SHQomar(i));
-    for (size_t i = 4; i <= 6; ++i) KfQomar(i) = NilaiSH(s.SHQomar(i + 1));
-    KfSyams(1) = NilaiSH(s.SHJumlah(4));
-    KfSyams(2) = NilaiSH(s.SHBud(1));
-    KfSyams(3) = NilaiSH(s.SHBud(2));
-    for (size_t i = 1; i <= 5; ++i) KfSaah(i) = NilaiSH(s.SHSaah(i));
+    SalinTaadilSH(s, {KfTdlKs.semua(), KfTdlMr.semua(), KfTdlHs.semua(), KfTdlDq.semua(), KfQomar.semua(),
+                      KfSyams.semua(), KfSaah.semua()});
     KfIjtima(1) = AlamahSH(s.SHJumlah(1), s.SHJumlah(2));
     KfIjtima(2) = NilaiSH(s.SHSaah(5));
     KfIjtima(3) = AlamahSH(HariSH(s.SHIjtimaTeks(3)), s.SHIjtima(3));
