@@ -182,6 +182,23 @@ TEST_F(SesiTahqiqi, AMoonJustPastWhereTheArcsStartAgain) {
     EXPECT_LT(na->Hasil[27], 2.0);
 }
 
+TEST_F(SesiTahqiqi, EveryMonthOfADecadeKeepsItsArcsShort) {
+    // Over 1440-1450 H, at the tables' place and west of it, the moon's setting arc less the
+    // sun's and Nuru al-Anwar's elongation are those of a young moon: a few degrees either way,
+    // never nearly a whole circle, and the stay follows the arc.
+    for (const char* tempat : {"Jombang", "Semarang"})
+        for (int32_t tahun = 1440; tahun <= 1450; ++tahun)
+            for (int16_t bulan = 1; bulan <= 12; ++bulan) {
+                SCOPED_TRACE(std::string(tempat) + " " + std::to_string(tahun) + "/" + std::to_string(bulan));
+                ASSERT_FALSE(ws->mnuProsesIjSub("BM", std::to_string(tahun), bulan, tempat).pesan);
+                EXPECT_LT(std::fabs(bm->Hasil[21]), 30.0);
+                EXPECT_NEAR(bm->Hasil[22], bm->Hasil[21] / 15, 1e-12);
+                ASSERT_FALSE(ws->mnuProsesIjSub("NA", std::to_string(tahun), bulan, tempat).pesan);
+                EXPECT_LT(std::fabs(na->Hasil[20]), 30.0);
+                EXPECT_LT(std::fabs(na->Hasil[27]), 30.0);
+            }
+}
+
 TEST_F(SesiTahqiqi, EveryRunKeepsItsFormulaSheet) {
     auto a = ws->mnuProsesIjSub("BM", "1445", 8, "Jombang");
     auto b = ws->mnuProsesIjSub("BM", "1445", 9, "Jombang");
