@@ -8,7 +8,7 @@ namespace {
 
 const DataGerhana kFathurRouf = {"FR", 110, 24, 3, 4, 5, 4};
 
-PokokFathu pokok(Konteks k) { return PokokFathu(FathurRouf(k).data(), false); }
+PokokFathu pokok(Konteks k) { return PokokFathu(FathurRouf(k).data(), AlamahSyahrFR); }
 
 }  // namespace
 

@@ -8,7 +8,7 @@ namespace {
 
 const DataGerhana kTadzkirotulIkhwan = {"TZ", 110, 24, 3, 4, 5, 6};
 
-PokokFathu pokok(Konteks k) { return PokokFathu(TadzkirotulIkhwan(k).data(), false); }
+PokokFathu pokok(Konteks k) { return PokokFathu(TadzkirotulIkhwan(k).data(), AlamahSyahrFR); }
 
 }  // namespace
 

@@ -1,7 +1,5 @@
 #include "eclipse/LangkahGerhana.h"
 
-#include "methods/taqribi/IttifaqDzatilBain.h"
-
 namespace falak::gerhana {
 
 Nilai busur(int64_t b, int64_t d, int64_t m, int64_t s) { return DlorbuSittin(b, d, m, s, 0, 1, ModusBuruj); }
@@ -87,8 +85,7 @@ namespace falak {
 TahunTerbagi PokokFathu::hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal,
                                 const BarisPokok& baris) const {
     if (kitab_.bulanYangDibuka) BulanDibuka(tahun, bulan);
-    const BacaAlamahSyahr alamah = bertanggal_ ? BacaAlamahSyahr(AlamahSyahrMasehi) : BacaAlamahSyahr(AlamahSyahrFR);
-    return HitungPokokFR(k, kitab_, tahun, bulan, istiqbal ? "GB" : "", alamah, baris);
+    return HitungPokokFR(k, kitab_, tahun, bulan, istiqbal ? "GB" : "", alamah_, baris);
 }
 
 }  // namespace falak

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 #include <span>
+#include <utility>
 
 #include "core/FungsHisab.h"
 #include "core/Nilai.h"
@@ -70,14 +71,14 @@ namespace falak {
 // ijtima' at its end the plain ones.
 class PokokFathu {
 public:
-    // bertanggal: the alamah carries the Masehi date of the book's month rows.
-    PokokFathu(const DataKitabFR& kitab, bool bertanggal) : kitab_(kitab), bertanggal_(bertanggal) {}
+    // alamah: how the book reads its month row's alamah (with the Masehi date where it carries one).
+    PokokFathu(const DataKitabFR& kitab, BacaAlamahSyahr alamah) : kitab_(kitab), alamah_(std::move(alamah)) {}
     TahunTerbagi hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal, const BarisPokok& baris) const;
     const DataKitabFR& kitab() const { return kitab_; }
 
 private:
     DataKitabFR kitab_;
-    bool bertanggal_;
+    BacaAlamahSyahr alamah_;
 };
 
 }  // namespace falak
