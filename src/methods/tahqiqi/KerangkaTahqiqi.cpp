@@ -71,7 +71,13 @@ struct KerangkaTahqiqi::KolomBaca {
 
 KerangkaTahqiqi::KerangkaTahqiqi(Konteks k, const DataKitabTahqiqi& data)
     : Hasil(static_cast<size_t>(data.jumlahHasil)), HasilTeks(static_cast<size_t>(data.jumlahHasil)), k_(k),
-      data_(data), kolom_(std::make_unique<KolomBaca>()) {}
+      data_(data), kolom_(std::make_unique<KolomBaca>()) {
+    for (size_t i = 0; i < 6; ++i) {
+        mabda_[i] = Nilai(data.mabda[i]);
+        tambah_[i] = Nilai(data.tambah[i]);
+        kurang_[i] = Nilai(data.kurang[i]);
+    }
+}
 
 KerangkaTahqiqi::~KerangkaTahqiqi() = default;
 
@@ -111,7 +117,7 @@ double KerangkaTahqiqi::lintang() const {
 void KerangkaTahqiqi::tahun(int32_t tahun) {
     const int32_t y = tahun - 1;
     int32_t pengali;
-    const std::array<const char*, 6>* baris = &data_.tambah;
+    const std::array<Nilai, 6>* baris = &tambah_;
     int32_t sisa;
     if (y >= 30) {
         Dawr = y / 30;
@@ -125,7 +131,7 @@ void KerangkaTahqiqi::tahun(int32_t tahun) {
         Dawr = (y - 30) / 30;
         pengali = std::abs(Dawr);
         sisa = y + 1 - Dawr * 30;
-        baris = &data_.kurang;
+        baris = &kurang_;
         if (sisa == 30) {
             Dawr += 1;
             pengali -= 1;
@@ -133,12 +139,7 @@ void KerangkaTahqiqi::tahun(int32_t tahun) {
         }
     }
     SisaTahun = static_cast<int16_t>(sisa);
-    std::array<Nilai, 6> mabda, langkah;
-    for (size_t i = 0; i < 6; ++i) {
-        mabda[i] = Nilai(data_.mabda[i]);
-        langkah[i] = Nilai((*baris)[i]);
-    }
-    HitungMajmuah(TarikhMajmu.semua(), mabda, langkah, pengali, 0, data_.modus);
+    HitungMajmuah(TarikhMajmu.semua(), mabda_, *baris, pengali, 0, data_.modus);
 }
 
 void KerangkaTahqiqi::bacaGerak(Baris<6>& b, Tabel& t, const KolomGerak& kolom, int64_t kunci) {

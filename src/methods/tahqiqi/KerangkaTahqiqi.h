@@ -132,6 +132,8 @@ private:
     std::vector<BarisTercatat> baris() const;
 
     const DataKitabTahqiqi& data_;
+    // The epoch and the group rows of the data, read once.
+    std::array<Nilai, 6> mabda_, tambah_, kurang_;
     std::unique_ptr<const KolomBaca> kolom_;
     int32_t tahunRun_ = 0;
     int16_t bulanRun_ = 0;
