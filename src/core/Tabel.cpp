@@ -336,7 +336,9 @@ std::string BacaTeks(const Tabel& tabel, std::string_view kolom) {
     return v ? std::string(*v) : std::string();
 }
 
-int32_t BacaBulat(const Tabel& tabel, std::string_view kolom) {
+int32_t BacaBulat(const Tabel& tabel, std::string_view kolom) { return BacaBulat(tabel, tabel.indeksKolom(kolom)); }
+
+int32_t BacaBulat(const Tabel& tabel, int kolom) {
     const auto v = tabel.baca(kolom);
     return v ? BulatGenap32(ValAngka(*v)).value_or(0) : 0;
 }

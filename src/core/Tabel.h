@@ -153,5 +153,6 @@ std::string BacaTeks(const Tabel& tabel, std::string_view kolom);
 // A field of the current row as a whole number, read as the kernel reads table cells
 // (ValAngka, rounded half to even); 0 when there is none.
 int32_t BacaBulat(const Tabel& tabel, std::string_view kolom);
+int32_t BacaBulat(const Tabel& tabel, int kolom);
 
 }  // namespace falak
