@@ -80,6 +80,24 @@ TEST_F(GerhanaKitab, PartialSolarEclipseOf20April2023) {
     }
 }
 
+TEST_F(GerhanaKitab, DatedAlamahAtAFullMoonCountedBackWestOfTheMarkaz) {
+    // Greatest 13:00:26 UT on 4 June 1993, 20.40 h local apparent time at Semarang, umbral
+    // magnitude 1.56: the eve of Sabtu 5 June, mid-Dzulhijjah 1413. Its full moon stands half a
+    // lunation before the next year's first ijtima' (fifteen days back), and Semarang lies west
+    // of Surabaya and Sampang: the place's correction takes the middle back over the start of
+    // the week.
+    for (const char* k : {"IDB1", "FK"}) {
+        int status = 0;
+        const std::string json = jalan({"gerhana", "--jenis", "bulan", "--kitab", k, "--tahun", "1413", "--bulan", "12",
+                                        "--markaz", "Semarang", "--json"},
+                                       status);
+        ASSERT_EQ(status, 0) << k;
+        EXPECT_NEAR(angka(json, "jamTengah"), 20.40, 1.0) << k;
+        EXPECT_NE(json.find("Gerhana terjadi pada : Malam Sabtu"), std::string::npos) << k;
+        EXPECT_NE(json.find("Dzulhijjah 1413 H./ 5 Jun 1993 M."), std::string::npos) << k;
+    }
+}
+
 TEST_F(GerhanaKitab, AYearsSearchFindsTheEclipsesInTheirMonths) {
     // 1442 to 1444 H: the lunar eclipses of 26 May 2021 (Syawal 1442) and 8 November 2022
     // (Robiul Tsani 1444, total) at night; the one of 19 November 2021 ends before moonrise

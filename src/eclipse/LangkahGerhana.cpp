@@ -1,5 +1,7 @@
 #include "eclipse/LangkahGerhana.h"
 
+#include "methods/Taadil.h"
+
 namespace falak::gerhana {
 
 Nilai busur(int64_t b, int64_t d, int64_t m, int64_t s) { return DlorbuSittin(b, d, m, s, 0, 1, ModusBuruj); }
@@ -86,6 +88,16 @@ TahunTerbagi PokokFathu::hitung(Konteks& k, int32_t tahun, int16_t bulan, bool i
                                 const BarisPokok& baris) const {
     if (kitab_.bulanYangDibuka) BulanDibuka(tahun, bulan);
     return HitungPokokFR(k, kitab_, tahun, bulan, istiqbal ? "GB" : "", alamah_, baris);
+}
+
+std::optional<Nilai> PokokFathu::saatBertanggal(Konteks& k, const Nilai& majmu, const Nilai& mabsut,
+                                                const Nilai& syahr, const Nilai& saah, int32_t dawr,
+                                                int32_t sisaTahun) const {
+    if (tanggal_ != Tanggal::Alamah) return std::nullopt;
+    const auto t = k.taadil.Taadil(majmu, mabsut, syahr, saah, dawr, sisaTahun, Nilai(kitab_.mabda[0]),
+                                   Nilai(kitab_.tambah[0]));
+    if (t[1].kosongTeks()) return std::nullopt;
+    return t[1];
 }
 
 }  // namespace falak

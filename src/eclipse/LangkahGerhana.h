@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -71,14 +72,25 @@ namespace falak {
 // ijtima' at its end the plain ones.
 class PokokFathu {
 public:
+    // Where the eclipse's date comes from: the day of the month found by the weekday the alamah
+    // reckons, or the Masehi date that the book's alamah carries.
+    enum class Tanggal { CariHari, Alamah };
+
     // alamah: how the book reads its month row's alamah (with the Masehi date where it carries one).
-    PokokFathu(const DataKitabFR& kitab, BacaAlamahSyahr alamah) : kitab_(kitab), alamah_(std::move(alamah)) {}
+    PokokFathu(const DataKitabFR& kitab, BacaAlamahSyahr alamah, Tanggal tanggal = Tanggal::CariHari)
+        : kitab_(kitab), alamah_(std::move(alamah)), tanggal_(tanggal) {}
     TahunTerbagi hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal, const BarisPokok& baris) const;
+    // The syzygy at the markaz with its Masehi date, as the book's month reckoning dates its
+    // ijtima': the date step of the tables on the alamah of the rows, less the hours to the
+    // syzygy. None for a book whose alamah is a time of the week.
+    std::optional<Nilai> saatBertanggal(Konteks& k, const Nilai& majmu, const Nilai& mabsut, const Nilai& syahr,
+                                        const Nilai& saah, int32_t dawr, int32_t sisaTahun) const;
     const DataKitabFR& kitab() const { return kitab_; }
 
 private:
     DataKitabFR kitab_;
     BacaAlamahSyahr alamah_;
+    Tanggal tanggal_;
 };
 
 }  // namespace falak

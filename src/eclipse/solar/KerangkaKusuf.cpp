@@ -48,6 +48,10 @@ void KusufPolaFathu::PokokKusuf(int32_t tahun, int16_t bulan) {
     KfSisaTahun = t.sisa;
 }
 
+std::optional<Nilai> KusufPolaFathu::ijtimaBertanggal() {
+    return pokok_.saatBertanggal(k_, KfMajmu(1), KfMabsut(1), KfSyahr(1), KfSaah(5), KfDawr, KfSisaTahun);
+}
+
 bool KerangkaKusuf::UjiHishshoh(const Nilai& hishshoh) {
     const int b = AmbilTingkat(hishshoh, MedanBuruj);
     const int d = AmbilTingkat(hishshoh, MedanDarojah);
@@ -76,9 +80,11 @@ void KerangkaKusuf::IjtimaKusuf() {
     HitungSaah(KfSaah.semua(), KfQomar(3), KfTdlDq(5), KfTdlHs(5));
     KfIjtima(1) = KfJumlah(1);
     KfIjtima(2) = CUmumToAlamah(KfSaah(5), false);
-    KfIjtima(3) = kurangAlamah(KfIjtima(1), KfIjtima(2));
+    // A dated ijtima' carries its date to the place.
+    const std::optional<Nilai> bertanggal = ijtimaBertanggal();
+    KfIjtima(3) = bertanggal ? *bertanggal : kurangAlamah(KfIjtima(1), KfIjtima(2));
     KfIjtima(4) = SelisihBujur(k_.sesi.tempat, data_.bujurDerajat, data_.bujurMenit, false);
-    KfIjtima(5) = tambahAlamah(KfIjtima(3), KfIjtima(4));
+    KfIjtima(5) = IjtimaDiTempat(bertanggal ? JenisAlamahMasehi : JenisAlamah, KfIjtima(3), KfIjtima(4));
 }
 
 void KerangkaKusuf::ArdlKusuf() { HitungArdl(KfArdl.semua(), KfSaah(5), KfTdlMr(5), KfJumlah(2)); }
@@ -210,7 +216,9 @@ HasilHitung KerangkaKusuf::HitungKusuf(int32_t tahun, int16_t bulan, bool lembar
     PokokKusuf(tahun, bulan);
     maju.langkah();
     if (!UjiHishshoh(KfJumlah(2)) || !TahapKusuf()) return berhenti();
-    const Nilai hari = HariIjtimaTaqribi(k_, KfIjtima(5));
+    // The day from the date the ijtima' carries, or else the day of the month on its weekday.
+    Nilai hari = TanggalAlamah(KfIjtima(5));
+    if (hari.kosongTeks()) hari = HariIjtimaTaqribi(k_, KfIjtima(5));
     if (hari.kosongTeks()) return berhenti();
     h.gerhana.emplace();
     h.gerhana->tanggal = hari;
