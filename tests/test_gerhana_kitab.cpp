@@ -116,6 +116,26 @@ TEST_F(GerhanaKitab, AYearsSearchFindsTheEclipsesInTheirMonths) {
     EXPECT_NE(daftar.find("tengah 00.06 WIS, 23.4"), std::string::npos) << daftar;
 }
 
+TEST_F(GerhanaKitab, SyamsusSheetsWriteNoUnlabelledRow) {
+    // Syamsu al-Hilal fills the sun's rows as Fathu's pattern does (the mean place, the moon's
+    // correction, the sun's place, and at the full moon the moon's): every number of the first
+    // column of its lunar sheet (28 July 2018) and its solar one (11 June 1983) has its label.
+    struct Bulan {
+        Garapan garapan;
+        const char* tahun;
+        int bulan;
+    };
+    for (const auto& [garapan, tahun, bulan] : {Bulan{Garapan::Hs, "1439", 11}, Bulan{Garapan::Kf, "1403", 8}}) {
+        const auto hasil = ws->mnuProsesGerhana(garapan, "SH", tahun, bulan, "Semarang");
+        ASSERT_NE(hasil.lembar, nullptr) << tahun;
+        const Sheet& l = hasil.lembar->lembar;
+        for (int r = 0; r < l.jumlahBaris(); ++r) {
+            if (l.selLengkap(r, 37).jenis != JenisSel::Angka) continue;
+            EXPECT_FALSE(l.sel(r, 38).empty() && l.sel(r, 39).empty()) << tahun << " row " << r;
+        }
+    }
+}
+
 TEST_F(GerhanaKitab, YearsAndMonthOfTheFullMoonRows) {
     // Fathu's rows count the years gone, ten more than a group of thirty: 1441 + 10 = 48 groups
     // and 11 years. The full moon in the middle of Syawal is the month table's row 11 in its

@@ -43,24 +43,23 @@ void HitungQomar(std::span<Nilai, 6> q, const Nilai& tdlKs, const Nilai& tdlMr) 
     q[5] = tambah(q[3], q[4]);
 }
 
-size_t HitungSyams(std::span<Nilai> s, std::span<const Nilai, 5> jumlah, const Nilai& koreksi, const DataGerhana& data,
-                   bool titikHadap) {
-    size_t matahari;
+size_t SelMatahari(const DataGerhana& data) { return data.wasath == 0 ? 5 : 3; }
+
+void HitungSyams(std::span<Nilai> s, std::span<const Nilai, 5> jumlah, const Nilai& koreksi, const DataGerhana& data,
+                 bool titikHadap) {
     if (data.wasath == 0) {
         s[0] = jumlah[static_cast<size_t>(data.markaz) - 1];
         s[1] = jumlah[4];
         s[2] = tambah(s[0], s[1]);
         s[3] = koreksi;
         s[4] = kurang(s[2], s[3]);
-        matahari = 5;
     } else {
         s[0] = jumlah[static_cast<size_t>(data.wasath) - 1];
         s[1] = koreksi;
         s[2] = kurang(s[0], s[1]);
-        matahari = 3;
     }
+    const size_t matahari = SelMatahari(data);
     if (titikHadap) s[matahari] = tambah(s[matahari - 1], busur(6, 0, 0));
-    return matahari;
 }
 
 void HitungArdl(std::span<Nilai, 7> a, const Nilai& saah, const Nilai& tdlMr, const Nilai& hishshoh) {

@@ -47,12 +47,14 @@ struct DataGerhana {
 // sun's equation again.
 void HitungQomar(std::span<Nilai, 6> qomar, const Nilai& tdlKs, const Nilai& tdlMr);
 
+// The cell of the sun's row that holds the sun's place: 5 in Sullam's form (Markaz plus auj,
+// less the moon's correction), 3 in Fathu's (Wasath less the correction).
+size_t SelMatahari(const DataGerhana& data);
+
 // The sun's place against the moon's correction, in the book's form, and with titikHadap the
-// point opposite it, where the moon stands at the full moon. Returns the cell of the sun's
-// place: 5 in Sullam's form (Markaz plus auj, less the correction), 3 in Fathu's (Wasath less
-// the correction).
-size_t HitungSyams(std::span<Nilai> syams, std::span<const Nilai, 5> jumlah, const Nilai& koreksi,
-                   const DataGerhana& data, bool titikHadap);
+// point opposite it, in the cell after it, where the moon stands at the full moon.
+void HitungSyams(std::span<Nilai> syams, std::span<const Nilai, 5> jumlah, const Nilai& koreksi,
+                 const DataGerhana& data, bool titikHadap);
 
 // The moon's Hishshoh at the syzygy: the hours to it times 2' 30" an hour, with the sun's
 // equation, taken off the mean Hishshoh (cell 7).

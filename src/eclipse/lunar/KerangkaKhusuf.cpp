@@ -79,8 +79,8 @@ void KerangkaKhusuf::TaadilKhusuf() {
 
 void KerangkaKhusuf::QomarKhusuf() {
     HitungQomar(HsQomar.semua(), HsTdlKs(5), HsTdlMr(5));
-    selMatahari_ = HitungSyams(HsSyams.semua(), HsJumlah.semua(), HsQomar(6), data_, true);
-    k_.taadil.TaadilBaris(HsTdlDq.semua(), 5, HsSyams(selMatahari_), 5, false);
+    HitungSyams(HsSyams.semua(), HsJumlah.semua(), HsQomar(6), data_, true);
+    k_.taadil.TaadilBaris(HsTdlDq.semua(), 5, HsSyams(SelMatahari(data_)), 5, false);
 }
 
 void KerangkaKhusuf::IstiqbalKhusuf() {
@@ -268,7 +268,7 @@ void KerangkaKhusuf::tulisSel(ClsFlexGrid& g) {
         for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
     };
     kolom(HsQomar, 8, 37, lima);
-    kolom(HsSyams, 14, 37, lima, selMatahari_ + 1);
+    kolom(HsSyams, 14, 37, lima, SelMatahari(data_) + 1);
     kolom(HsSaah, 20, 37, lima);
     kolom(HsIstiqbal, 25, 37, waktu);
     kolom(HsArdl, 36, 37, lima);

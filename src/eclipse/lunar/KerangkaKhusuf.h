@@ -92,7 +92,6 @@ private:
     const Nilai& khossyoh() const;
 
     const DataGerhana& data_;
-    size_t selMatahari_ = 5;  // the cell of HsSyams that holds the sun's place
     std::unique_ptr<FathurRouf> fathur_;
 };
 

@@ -35,7 +35,7 @@ KerangkaKusuf::KerangkaKusuf(Konteks k, const DataGerhana& data) : k_(k), data_(
 
 const Nilai& KerangkaKusuf::khossyoh() const { return KfJumlah(static_cast<size_t>(data_.khossyoh)); }
 
-const Nilai& KerangkaKusuf::matahari() const { return KfSyams(selMatahari_); }
+const Nilai& KerangkaKusuf::matahari() const { return KfSyams(SelMatahari(data_)); }
 
 KusufPolaFathu::KusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok)
     : KerangkaKusuf(k, data), pokok_(std::move(pokok)) {}
@@ -72,7 +72,7 @@ void KerangkaKusuf::TaadilKusuf() {
 
 void KerangkaKusuf::QomarKusuf() {
     HitungQomar(KfQomar.semua(), KfTdlKs(5), KfTdlMr(5));
-    selMatahari_ = HitungSyams(KfSyams.semua(), KfJumlah.semua(), KfQomar(6), data_, false);
+    HitungSyams(KfSyams.semua(), KfJumlah.semua(), KfQomar(6), data_, false);
     k_.taadil.TaadilBaris(KfTdlDq.semua(), 5, matahari(), 5, false);
 }
 
@@ -312,7 +312,7 @@ void KerangkaKusuf::IsiTabelKusuf(ClsFlexGrid& g) {
         for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
     };
     kolom(KfQomar, 8, 37, lima);
-    kolom(KfSyams, 14, 37, lima, selMatahari_);
+    kolom(KfSyams, 14, 37, lima, SelMatahari(data_));
     kolom(KfSaah, 19, 37, lima);
     kolom(KfIjtima, 24, 37, waktu);
     kolom(KfArdl, 29, 37, lima);

@@ -109,7 +109,6 @@ private:
     const Nilai& matahari() const;
 
     const DataGerhana& data_;
-    size_t selMatahari_ = 5;  // the cell of KfSyams that holds the sun's place
 };
 
 // The solar eclipse of a book of Fathu al-Ro'uf's pattern: the skeleton on the book's rows of
