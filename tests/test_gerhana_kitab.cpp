@@ -80,6 +80,24 @@ TEST_F(GerhanaKitab, PartialSolarEclipseOf20April2023) {
     }
 }
 
+TEST_F(GerhanaKitab, DatedAlamahAtAFullMoonCountedBackWestOfTheMarkaz) {
+    // Greatest 13:00:26 UT on 4 June 1993, 20.40 h local apparent time at Semarang, umbral
+    // magnitude 1.56: the eve of Sabtu 5 June, mid-Dzulhijjah 1413. Its full moon stands half a
+    // lunation before the next year's first ijtima' (fifteen days back), and Semarang lies west
+    // of Surabaya and Sampang: the place's correction takes the middle back over the start of
+    // the week.
+    for (const char* k : {"IDB1", "FK"}) {
+        int status = 0;
+        const std::string json = jalan({"gerhana", "--jenis", "bulan", "--kitab", k, "--tahun", "1413", "--bulan", "12",
+                                        "--markaz", "Semarang", "--json"},
+                                       status);
+        ASSERT_EQ(status, 0) << k;
+        EXPECT_NEAR(angka(json, "jamTengah"), 20.40, 1.0) << k;
+        EXPECT_NE(json.find("Gerhana terjadi pada : Malam Sabtu"), std::string::npos) << k;
+        EXPECT_NE(json.find("Dzulhijjah 1413 H./ 5 Jun 1993 M."), std::string::npos) << k;
+    }
+}
+
 TEST_F(GerhanaKitab, AYearsSearchFindsTheEclipsesInTheirMonths) {
     // 1442 to 1444 H: the lunar eclipses of 26 May 2021 (Syawal 1442) and 8 November 2022
     // (Robiul Tsani 1444, total) at night; the one of 19 November 2021 ends before moonrise
@@ -96,6 +114,26 @@ TEST_F(GerhanaKitab, AYearsSearchFindsTheEclipsesInTheirMonths) {
     // The book's middle of 6 May 2023 falls just after midnight by the sun at Semarang, 110° 24'
     // E: by the zone of 105° it is some 25 minutes earlier, before midnight.
     EXPECT_NE(daftar.find("tengah 00.06 WIS, 23.4"), std::string::npos) << daftar;
+}
+
+TEST_F(GerhanaKitab, SyamsusSheetsWriteNoUnlabelledRow) {
+    // Syamsu al-Hilal fills the sun's rows as Fathu's pattern does (the mean place, the moon's
+    // correction, the sun's place, and at the full moon the moon's): every number of the first
+    // column of its lunar sheet (28 July 2018) and its solar one (11 June 1983) has its label.
+    struct Bulan {
+        Garapan garapan;
+        const char* tahun;
+        int bulan;
+    };
+    for (const auto& [garapan, tahun, bulan] : {Bulan{Garapan::Hs, "1439", 11}, Bulan{Garapan::Kf, "1403", 8}}) {
+        const auto hasil = ws->mnuProsesGerhana(garapan, "SH", tahun, bulan, "Semarang");
+        ASSERT_NE(hasil.lembar, nullptr) << tahun;
+        const Sheet& l = hasil.lembar->lembar;
+        for (int r = 0; r < l.jumlahBaris(); ++r) {
+            if (l.selLengkap(r, 37).jenis != JenisSel::Angka) continue;
+            EXPECT_FALSE(l.sel(r, 38).empty() && l.sel(r, 39).empty()) << tahun << " row " << r;
+        }
+    }
 }
 
 TEST_F(GerhanaKitab, YearsAndMonthOfTheFullMoonRows) {

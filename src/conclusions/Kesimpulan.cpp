@@ -448,6 +448,19 @@ std::string ClsKesimpulan::FullGerhanB(Nilai& tanggal, const Nilai& hariDihitung
         }
     }
     tanggal = hari;
+    return barisGerhanaB(tanggal, jam, hariHijri);
+}
+
+std::string ClsKesimpulan::FullGerhanBTanggal(const Nilai& awal, const Nilai& tanggal, const Nilai& jam,
+                                              int16_t& hariHijri) const {
+    const auto nomor = [](const Nilai& t) {
+        return hariDariTanggal(AmbilTingkat(t, MedanTahun), AmbilTingkat(t, MedanBulan), AmbilTingkat(t, MedanTanggal));
+    };
+    hariHijri = static_cast<int16_t>(nomor(tanggal) - nomor(awal) + 1);
+    return barisGerhanaB(tanggal, jam, hariHijri);
+}
+
+std::string ClsKesimpulan::barisGerhanaB(const Nilai& tanggal, const Nilai& jam, int16_t hariHijri) const {
     const int jamSaja = jam.teks().size() > 23 ? AmbilTingkat(jam, MedanJam) : AmbilTingkat(jam, MedanDarojah);
     const std::string baris = kBarisBulan[static_cast<size_t>(sesi_.barisBulan % 12)];
     const std::string bulan = rapikan(baris.size() > 4 ? baris.substr(4) : std::string());

@@ -77,6 +77,9 @@ public:
     // of the 18th with the day 17, as the search leaves them. The time `jam`
     // (hours from sunset) makes an evening read as the eve of that day.
     std::string FullGerhanB(Nilai& tanggal, const Nilai& hariDihitung, const Nilai& jam, int16_t& hariHijri) const;
+    // The same line for a book whose reckoning carries the date (`tanggal`, a date value):
+    // the first of the Hijri month `awal` gives the day of the month.
+    std::string FullGerhanBTanggal(const Nilai& awal, const Nilai& tanggal, const Nilai& jam, int16_t& hariHijri) const;
     // The date line of a solar eclipse: the date of the ijtima', written the 29th of the run's month.
     std::string FullGerhanM(Nilai& tanggal, const Nilai& jam) const;
     // The clock line of a phase: the time (an alamah value or an arc value of hours) in local
@@ -102,6 +105,8 @@ public:
     static std::string barisTempat(const Tempat& t);
 
 private:
+    // The words of a lunar eclipse's date line, once its day is known.
+    std::string barisGerhanaB(const Nilai& tanggal, const Nilai& jam, int16_t hariHijri) const;
     // The place's share of the zone time: the hours of its longitude from the zone's meridian
     // and the zone's hours from WIB, kept with the place they were worked out for.
     struct SelisihTempat {

@@ -12,7 +12,7 @@ const DataGerhana kFaidlulKarim = {"FK", 113, 15, 3, 4, 5, 6};
 PokokFathu pokok(Konteks k) {
     DataKitabFR kitab = FaidlulKarim(k).data();
     kitab.mabda[2] = "03 27 22 24 00 1";
-    return PokokFathu(kitab, AlamahSyahrMasehi);
+    return PokokFathu(kitab, AlamahSyahrMasehi, PokokFathu::Tanggal::Alamah);
 }
 
 }  // namespace

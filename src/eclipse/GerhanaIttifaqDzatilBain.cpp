@@ -8,7 +8,9 @@ namespace {
 
 const DataGerhana kIttifaqDzatilBain = {"IDB1", 112, 46, 3, 4, 5, 4};
 
-PokokFathu pokok(Konteks k) { return PokokFathu(IttifaqDzatilBain(k).data(), AlamahSyahrMasehi); }
+PokokFathu pokok(Konteks k) {
+    return PokokFathu(IttifaqDzatilBain(k).data(), AlamahSyahrMasehi, PokokFathu::Tanggal::Alamah);
+}
 
 }  // namespace
 

@@ -1,5 +1,7 @@
 #include "eclipse/LangkahGerhana.h"
 
+#include "methods/Taadil.h"
+
 namespace falak::gerhana {
 
 Nilai busur(int64_t b, int64_t d, int64_t m, int64_t s) { return DlorbuSittin(b, d, m, s, 0, 1, ModusBuruj); }
@@ -41,24 +43,23 @@ void HitungQomar(std::span<Nilai, 6> q, const Nilai& tdlKs, const Nilai& tdlMr) 
     q[5] = tambah(q[3], q[4]);
 }
 
-size_t HitungSyams(std::span<Nilai> s, std::span<const Nilai, 5> jumlah, const Nilai& koreksi, const DataGerhana& data,
-                   bool titikHadap) {
-    size_t matahari;
+size_t SelMatahari(const DataGerhana& data) { return data.wasath == 0 ? 5 : 3; }
+
+void HitungSyams(std::span<Nilai> s, std::span<const Nilai, 5> jumlah, const Nilai& koreksi, const DataGerhana& data,
+                 bool titikHadap) {
     if (data.wasath == 0) {
         s[0] = jumlah[static_cast<size_t>(data.markaz) - 1];
         s[1] = jumlah[4];
         s[2] = tambah(s[0], s[1]);
         s[3] = koreksi;
         s[4] = kurang(s[2], s[3]);
-        matahari = 5;
     } else {
         s[0] = jumlah[static_cast<size_t>(data.wasath) - 1];
         s[1] = koreksi;
         s[2] = kurang(s[0], s[1]);
-        matahari = 3;
     }
+    const size_t matahari = SelMatahari(data);
     if (titikHadap) s[matahari] = tambah(s[matahari - 1], busur(6, 0, 0));
-    return matahari;
 }
 
 void HitungArdl(std::span<Nilai, 7> a, const Nilai& saah, const Nilai& tdlMr, const Nilai& hishshoh) {
@@ -86,6 +87,16 @@ TahunTerbagi PokokFathu::hitung(Konteks& k, int32_t tahun, int16_t bulan, bool i
                                 const BarisPokok& baris) const {
     if (kitab_.bulanYangDibuka) BulanDibuka(tahun, bulan);
     return HitungPokokFR(k, kitab_, tahun, bulan, istiqbal ? "GB" : "", alamah_, baris);
+}
+
+std::optional<Nilai> PokokFathu::saatBertanggal(Konteks& k, const Nilai& majmu, const Nilai& mabsut,
+                                                const Nilai& syahr, const Nilai& saah, int32_t dawr,
+                                                int32_t sisaTahun) const {
+    if (tanggal_ != Tanggal::Alamah) return std::nullopt;
+    const auto t = k.taadil.Taadil(majmu, mabsut, syahr, saah, dawr, sisaTahun, Nilai(kitab_.mabda[0]),
+                                   Nilai(kitab_.tambah[0]));
+    if (t[1].kosongTeks()) return std::nullopt;
+    return t[1];
 }
 
 }  // namespace falak

@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -46,12 +47,14 @@ struct DataGerhana {
 // sun's equation again.
 void HitungQomar(std::span<Nilai, 6> qomar, const Nilai& tdlKs, const Nilai& tdlMr);
 
+// The cell of the sun's row that holds the sun's place: 5 in Sullam's form (Markaz plus auj,
+// less the moon's correction), 3 in Fathu's (Wasath less the correction).
+size_t SelMatahari(const DataGerhana& data);
+
 // The sun's place against the moon's correction, in the book's form, and with titikHadap the
-// point opposite it, where the moon stands at the full moon. Returns the cell of the sun's
-// place: 5 in Sullam's form (Markaz plus auj, less the correction), 3 in Fathu's (Wasath less
-// the correction).
-size_t HitungSyams(std::span<Nilai> syams, std::span<const Nilai, 5> jumlah, const Nilai& koreksi,
-                   const DataGerhana& data, bool titikHadap);
+// point opposite it, in the cell after it, where the moon stands at the full moon.
+void HitungSyams(std::span<Nilai> syams, std::span<const Nilai, 5> jumlah, const Nilai& koreksi,
+                 const DataGerhana& data, bool titikHadap);
 
 // The moon's Hishshoh at the syzygy: the hours to it times 2' 30" an hour, with the sun's
 // equation, taken off the mean Hishshoh (cell 7).
@@ -71,14 +74,25 @@ namespace falak {
 // ijtima' at its end the plain ones.
 class PokokFathu {
 public:
+    // Where the eclipse's date comes from: the day of the month found by the weekday the alamah
+    // reckons, or the Masehi date that the book's alamah carries.
+    enum class Tanggal { CariHari, Alamah };
+
     // alamah: how the book reads its month row's alamah (with the Masehi date where it carries one).
-    PokokFathu(const DataKitabFR& kitab, BacaAlamahSyahr alamah) : kitab_(kitab), alamah_(std::move(alamah)) {}
+    PokokFathu(const DataKitabFR& kitab, BacaAlamahSyahr alamah, Tanggal tanggal = Tanggal::CariHari)
+        : kitab_(kitab), alamah_(std::move(alamah)), tanggal_(tanggal) {}
     TahunTerbagi hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal, const BarisPokok& baris) const;
+    // The syzygy at the markaz with its Masehi date, as the book's month reckoning dates its
+    // ijtima': the date step of the tables on the alamah of the rows, less the hours to the
+    // syzygy. None for a book whose alamah is a time of the week.
+    std::optional<Nilai> saatBertanggal(Konteks& k, const Nilai& majmu, const Nilai& mabsut, const Nilai& syahr,
+                                        const Nilai& saah, int32_t dawr, int32_t sisaTahun) const;
     const DataKitabFR& kitab() const { return kitab_; }
 
 private:
     DataKitabFR kitab_;
     BacaAlamahSyahr alamah_;
+    Tanggal tanggal_;
 };
 
 }  // namespace falak

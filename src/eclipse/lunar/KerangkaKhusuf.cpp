@@ -14,6 +14,7 @@
 #include "methods/Lembar.h"
 #include "methods/Taadil.h"
 #include "methods/taqribi/FathurRouf.h"
+#include "methods/taqribi/KesimpulanTaqribi.h"
 
 namespace falak {
 
@@ -49,6 +50,10 @@ void KhusufPolaFathu::PokokKhusuf(int32_t tahun, int16_t bulan) {
     HsSisaTahun = t.sisa;
 }
 
+std::optional<Nilai> KhusufPolaFathu::istiqbalBertanggal() {
+    return pokok_.saatBertanggal(k_, HsMajmu(1), HsMabsut(1), HsSyahr(1), HsSaah(5), HsDawr, HsSisaTahun);
+}
+
 bool KerangkaKhusuf::UjiHishshoh(const Nilai& hishshoh) {
     const int b = AmbilTingkat(hishshoh, MedanBuruj);
     const int d = AmbilTingkat(hishshoh, MedanDarojah);
@@ -74,15 +79,18 @@ void KerangkaKhusuf::TaadilKhusuf() {
 
 void KerangkaKhusuf::QomarKhusuf() {
     HitungQomar(HsQomar.semua(), HsTdlKs(5), HsTdlMr(5));
-    selMatahari_ = HitungSyams(HsSyams.semua(), HsJumlah.semua(), HsQomar(6), data_, true);
-    k_.taadil.TaadilBaris(HsTdlDq.semua(), 5, HsSyams(selMatahari_), 5, false);
+    HitungSyams(HsSyams.semua(), HsJumlah.semua(), HsQomar(6), data_, true);
+    k_.taadil.TaadilBaris(HsTdlDq.semua(), 5, HsSyams(SelMatahari(data_)), 5, false);
 }
 
 void KerangkaKhusuf::IstiqbalKhusuf() {
     HitungSaah(HsSaah.semua(), HsQomar(3), HsTdlDq(5), HsTdlHs(5));
     HsIstiqbal(1) = HsJumlah(1);
     HsIstiqbal(2) = CUmumToAlamah(HsSaah(5), false);
-    HsIstiqbal(3) = kurangAlamah(HsIstiqbal(1), HsIstiqbal(2));
+    // A dated full moon carries its date through the corrections to the middle.
+    const std::optional<Nilai> bertanggal = istiqbalBertanggal();
+    const int jenis = bertanggal ? JenisAlamahMasehi : JenisAlamah;
+    HsIstiqbal(3) = bertanggal ? *bertanggal : kurangAlamah(HsIstiqbal(1), HsIstiqbal(2));
     // The time the moon takes over its distance from the node: twelve seconds a degree of the
     // Hishshoh, times the hours per degree.
     HsIstiqbal(4) = CUmumToAlamah(NolkanBuruj(HsJumlah(2)), false);
@@ -92,9 +100,9 @@ void KerangkaKhusuf::IstiqbalKhusuf() {
     // Before the node the time is added, after it taken off.
     HsIstiqbal(8) = HsIstiqbal(3);
     if (burujSebelumSimpul(HsJumlah(2))) HsIstiqbal(8) = GantiTanda(HsIstiqbal(8), "0");
-    HsIstiqbal(9) = GantiTanda(kurangAlamah(HsIstiqbal(8), HsIstiqbal(7)), "1");
+    HsIstiqbal(9) = GantiTanda(KurangNilai(jenis, TandaIkut, ModusBuruj, HsIstiqbal(8), HsIstiqbal(7)), "1");
     HsIstiqbal(10) = SelisihBujur(k_.sesi.tempat, data_.bujurDerajat, data_.bujurMenit, false);
-    HsIstiqbal(11) = tambahAlamah(HsIstiqbal(9), HsIstiqbal(10));
+    HsIstiqbal(11) = IjtimaDiTempat(jenis, HsIstiqbal(9), HsIstiqbal(10));
 }
 
 void KerangkaKhusuf::ArdlKhusuf() { HitungArdl(HsArdl.semua(), HsSaah(5), HsTdlMr(5), HsJumlah(2)); }
@@ -185,8 +193,15 @@ void KerangkaKhusuf::KesimpulanKhusuf(HasilHitung& h) {
     const Sesi& s = k_.sesi;
     RingkasanGerhana& r = *h.gerhana;
     int16_t hariHijri = 0;
-    Nilai tanggal = r.tanggal;
-    const std::string hari = ks.FullGerhanB(tanggal, HsIstiqbal(11), HsIstiqbal(11), hariHijri);
+    // The day from the date the middle carries, or else the day of the month on its weekday.
+    Nilai tanggal = TanggalAlamah(HsIstiqbal(11));
+    std::string hari;
+    if (tanggal.kosongTeks()) {
+        tanggal = r.tanggal;
+        hari = ks.FullGerhanB(tanggal, HsIstiqbal(11), HsIstiqbal(11), hariHijri);
+    } else {
+        hari = ks.FullGerhanBTanggal(r.tanggal, tanggal, HsIstiqbal(11), hariHijri);
+    }
     r.tanggal = tanggal;
 
     const Nilai& ukuran = HsAshobi(11);
@@ -253,7 +268,7 @@ void KerangkaKhusuf::tulisSel(ClsFlexGrid& g) {
         for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
     };
     kolom(HsQomar, 8, 37, lima);
-    kolom(HsSyams, 14, 37, lima, selMatahari_ + 1);
+    kolom(HsSyams, 14, 37, lima, SelMatahari(data_) + 1);
     kolom(HsSaah, 20, 37, lima);
     kolom(HsIstiqbal, 25, 37, waktu);
     kolom(HsArdl, 36, 37, lima);

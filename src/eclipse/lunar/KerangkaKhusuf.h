@@ -75,6 +75,9 @@ protected:
     // eclipse after all. A book that reckons in decimals works them its own way and leaves
     // its results in these rows.
     virtual bool TahapKhusuf();
+    // The full moon at the markaz with the Masehi date the book's alamah carries; none where the
+    // alamah is a time of the week and the day is sought in the month by its weekday.
+    virtual std::optional<Nilai> istiqbalBertanggal() { return std::nullopt; }
 
     Konteks k_;
 
@@ -89,7 +92,6 @@ private:
     const Nilai& khossyoh() const;
 
     const DataGerhana& data_;
-    size_t selMatahari_ = 5;  // the cell of HsSyams that holds the sun's place
     std::unique_ptr<FathurRouf> fathur_;
 };
 
@@ -101,6 +103,7 @@ public:
 
 protected:
     KhusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok);
+    std::optional<Nilai> istiqbalBertanggal() override;
 
 private:
     PokokFathu pokok_;

@@ -35,7 +35,7 @@ KerangkaKusuf::KerangkaKusuf(Konteks k, const DataGerhana& data) : k_(k), data_(
 
 const Nilai& KerangkaKusuf::khossyoh() const { return KfJumlah(static_cast<size_t>(data_.khossyoh)); }
 
-const Nilai& KerangkaKusuf::matahari() const { return KfSyams(selMatahari_); }
+const Nilai& KerangkaKusuf::matahari() const { return KfSyams(SelMatahari(data_)); }
 
 KusufPolaFathu::KusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok)
     : KerangkaKusuf(k, data), pokok_(std::move(pokok)) {}
@@ -46,6 +46,10 @@ void KusufPolaFathu::PokokKusuf(int32_t tahun, int16_t bulan) {
         pokok_.hitung(k_, tahun, bulan, false, {KfMajmu.semua(), KfMabsut.semua(), KfSyahr.semua(), KfJumlah.semua()});
     KfDawr = t.dawr;
     KfSisaTahun = t.sisa;
+}
+
+std::optional<Nilai> KusufPolaFathu::ijtimaBertanggal() {
+    return pokok_.saatBertanggal(k_, KfMajmu(1), KfMabsut(1), KfSyahr(1), KfSaah(5), KfDawr, KfSisaTahun);
 }
 
 bool KerangkaKusuf::UjiHishshoh(const Nilai& hishshoh) {
@@ -68,7 +72,7 @@ void KerangkaKusuf::TaadilKusuf() {
 
 void KerangkaKusuf::QomarKusuf() {
     HitungQomar(KfQomar.semua(), KfTdlKs(5), KfTdlMr(5));
-    selMatahari_ = HitungSyams(KfSyams.semua(), KfJumlah.semua(), KfQomar(6), data_, false);
+    HitungSyams(KfSyams.semua(), KfJumlah.semua(), KfQomar(6), data_, false);
     k_.taadil.TaadilBaris(KfTdlDq.semua(), 5, matahari(), 5, false);
 }
 
@@ -76,9 +80,11 @@ void KerangkaKusuf::IjtimaKusuf() {
     HitungSaah(KfSaah.semua(), KfQomar(3), KfTdlDq(5), KfTdlHs(5));
     KfIjtima(1) = KfJumlah(1);
     KfIjtima(2) = CUmumToAlamah(KfSaah(5), false);
-    KfIjtima(3) = kurangAlamah(KfIjtima(1), KfIjtima(2));
+    // A dated ijtima' carries its date to the place.
+    const std::optional<Nilai> bertanggal = ijtimaBertanggal();
+    KfIjtima(3) = bertanggal ? *bertanggal : kurangAlamah(KfIjtima(1), KfIjtima(2));
     KfIjtima(4) = SelisihBujur(k_.sesi.tempat, data_.bujurDerajat, data_.bujurMenit, false);
-    KfIjtima(5) = tambahAlamah(KfIjtima(3), KfIjtima(4));
+    KfIjtima(5) = IjtimaDiTempat(bertanggal ? JenisAlamahMasehi : JenisAlamah, KfIjtima(3), KfIjtima(4));
 }
 
 void KerangkaKusuf::ArdlKusuf() { HitungArdl(KfArdl.semua(), KfSaah(5), KfTdlMr(5), KfJumlah(2)); }
@@ -210,7 +216,9 @@ HasilHitung KerangkaKusuf::HitungKusuf(int32_t tahun, int16_t bulan, bool lembar
     PokokKusuf(tahun, bulan);
     maju.langkah();
     if (!UjiHishshoh(KfJumlah(2)) || !TahapKusuf()) return berhenti();
-    const Nilai hari = HariIjtimaTaqribi(k_, KfIjtima(5));
+    // The day from the date the ijtima' carries, or else the day of the month on its weekday.
+    Nilai hari = TanggalAlamah(KfIjtima(5));
+    if (hari.kosongTeks()) hari = HariIjtimaTaqribi(k_, KfIjtima(5));
     if (hari.kosongTeks()) return berhenti();
     h.gerhana.emplace();
     h.gerhana->tanggal = hari;
@@ -304,7 +312,7 @@ void KerangkaKusuf::IsiTabelKusuf(ClsFlexGrid& g) {
         for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
     };
     kolom(KfQomar, 8, 37, lima);
-    kolom(KfSyams, 14, 37, lima, selMatahari_);
+    kolom(KfSyams, 14, 37, lima, SelMatahari(data_));
     kolom(KfSaah, 19, 37, lima);
     kolom(KfIjtima, 24, 37, waktu);
     kolom(KfArdl, 29, 37, lima);

@@ -92,6 +92,9 @@ protected:
     // false when a test fails or the place sees no eclipse. A book that reckons in decimals
     // works them its own way and leaves its results in these rows.
     virtual bool TahapKusuf();
+    // The ijtima' at the markaz with the Masehi date the book's alamah carries; none where the
+    // alamah is a time of the week and the day is sought in the month by its weekday.
+    virtual std::optional<Nilai> ijtimaBertanggal() { return std::nullopt; }
 
     Konteks k_;
 
@@ -106,7 +109,6 @@ private:
     const Nilai& matahari() const;
 
     const DataGerhana& data_;
-    size_t selMatahari_ = 5;  // the cell of KfSyams that holds the sun's place
 };
 
 // The solar eclipse of a book of Fathu al-Ro'uf's pattern: the skeleton on the book's rows of
@@ -117,6 +119,7 @@ public:
 
 protected:
     KusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok);
+    std::optional<Nilai> ijtimaBertanggal() override;
 
 private:
     PokokFathu pokok_;

@@ -1,12 +1,14 @@
 #include "methods/taqribi/IttifaqDzatilBain.h"
 
-#include <cstdio>
+#include <cmath>
 
+#include "core/Angka.h"
 #include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Sesi.h"
 #include "methods/LangkahTaqribi.h"
 #include "methods/Taadil.h"
+#include "methods/taqribi/KesimpulanTaqribi.h"
 
 namespace falak {
 
@@ -43,11 +45,17 @@ IttifaqDzatilBain::IttifaqDzatilBain(Konteks k, const DataKitabFR& data) : Keran
 
 std::optional<Nilai> AlamahSyahrMasehi(const Tabel& syahru, std::string_view akhiran) {
     auto sel = [&](std::string_view kolom) { return BacaTeks(syahru, std::string(kolom) + std::string(akhiran)); };
-    // The date fields are days counted in months of 30: kept as the table gives them (a month
-    // row of no days must not be finished into a month before month 0).
-    return AlamahTarkh(-1, {sel("mshTh"), sel("mshBln"), sel("mshTgl"), sel("Pasaran"), sel("alHari"), sel("alSah"),
-                           sel("alQoh"), "0", "0"},
-                       1);
+    const auto alamah = AlamahTarkh(-1, {sel("mshTh"), sel("mshBln"), sel("mshTgl"), sel("Pasaran"), sel("alHari"),
+                                         sel("alSah"), sel("alQoh"), "0", "0"},
+                                    1);
+    if (!alamah) return std::nullopt;
+    // The date fields are days counted in months of 30, kept as the table gives them: a month
+    // row of no days must not be finished into a month before month 0, and the full moon half
+    // a lunation before the year's first ijtima' counts its fifteen days back.
+    MedanAlamah m{};
+    for (int f = 0; f < 9; ++f) m[static_cast<size_t>(f)] = AmbilTingkat(*alamah, 6 + f);
+    m[2] = std::llround(ValAngka(sel("mshTgl")));
+    return Nilai::alamah(m, 1);
 }
 
 std::optional<Nilai> IttifaqDzatilBain::alamahSyahr(const Tabel& syahru, std::string_view akhiran) const {
@@ -103,15 +111,8 @@ void IttifaqDzatilBain::WaktuIDB1() {
 }
 
 Nilai IttifaqDzatilBain::hariIjtima() {
-    const Nilai& I = Ijtima(5);
-    if (TanggalMasehi[1].kosongTeks() || AmbilTingkat(I, MedanTahun) == 0) return Nilai();
-    char bulan[8];
-    std::snprintf(bulan, sizeof bulan, "%02d", AmbilTingkat(I, MedanBulan));
-    const int pasaran = AmbilTingkat(I, MedanPasaran) == 0 ? 5 : AmbilTingkat(I, MedanPasaran);
-    const int hari = AmbilTingkat(I, MedanHari) == 0 ? 7 : AmbilTingkat(I, MedanHari);
-    return Nilai(std::to_string(AmbilTingkat(I, MedanTahun)) + " " + bulan + " " +
-                 std::to_string(AmbilTingkat(I, MedanTanggal)) + " " + std::to_string(pasaran) + " " +
-                 std::to_string(hari) + " 00 00 00 00 1");
+    if (TanggalMasehi[1].kosongTeks()) return Nilai();
+    return TanggalAlamah(Ijtima(5));
 }
 
 void IttifaqDzatilBain::tulisSelTambahan(ClsFlexGrid& g) {

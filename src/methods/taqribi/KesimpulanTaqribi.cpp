@@ -1,5 +1,7 @@
 #include "methods/taqribi/KesimpulanTaqribi.h"
 
+#include <cstdio>
+
 #include "conclusions/Kesimpulan.h"
 #include "core/FungsHisab.h"
 #include "core/Sesi.h"
@@ -12,6 +14,17 @@ Nilai HariIjtimaTaqribi(Konteks& k, const Nilai& ijtima) {
         .CariTHM(AmbilTingkat(s.tanggalPilihan, MedanTahun), AmbilTingkat(s.tanggalPilihan, MedanBulan),
                  AmbilTingkat(ijtima, MedanHari))
         .value_or(Nilai());
+}
+
+Nilai TanggalAlamah(const Nilai& alamah) {
+    if (AmbilTingkat(alamah, MedanTahun) == 0) return Nilai();
+    char bulan[8];
+    std::snprintf(bulan, sizeof bulan, "%02d", AmbilTingkat(alamah, MedanBulan));
+    const int pasaran = AmbilTingkat(alamah, MedanPasaran) == 0 ? 5 : AmbilTingkat(alamah, MedanPasaran);
+    const int hari = AmbilTingkat(alamah, MedanHari) == 0 ? 7 : AmbilTingkat(alamah, MedanHari);
+    return Nilai(std::to_string(AmbilTingkat(alamah, MedanTahun)) + " " + bulan + " " +
+                 std::to_string(AmbilTingkat(alamah, MedanTanggal)) + " " + std::to_string(pasaran) + " " +
+                 std::to_string(hari) + " 00 00 00 00 1");
 }
 
 Nilai AwalBulanTaqribi(const Nilai& hariIjtima, double tinggi) {

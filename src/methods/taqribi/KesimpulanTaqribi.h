@@ -36,6 +36,10 @@ struct BahanKesimpulan {
 // weekday (an empty value when none does).
 Nilai HariIjtimaTaqribi(Konteks& k, const Nilai& ijtima);
 
+// The date value of the day an alamah that carries its Masehi date stands for (the day that
+// its weekday names, from the sunset before); an empty value for a time of the week alone.
+Nilai TanggalAlamah(const Nilai& alamah);
+
 // The first of the month: two days after the ijtima' when the hilal stands below 2 degrees,
 // else one; the day, the pasaran and the weekday all move.
 Nilai AwalBulanTaqribi(const Nilai& hariIjtima, double tinggi);
