@@ -33,6 +33,16 @@ TEST(Tanda, ReplacingAndReadingTheFlag) {
     EXPECT_EQ(TandaBusur(Nilai("00 180 00 00 00 0")).teks(), "00 180 00 00 00 1");
     EXPECT_EQ(NolkanBuruj(Nilai("05 10 20 00 00 1")).teks(), "00 10 20 00 00 1");
     EXPECT_EQ(NolkanBuruj(Nilai("1445 08 29 03 02 18 11 30 45 1")).teks(), "00 08 29 03 02 18 11 30 45 1");
+    // Values the arithmetic made get the same texts and fields as the texts would.
+    const Nilai buruj = DlorbuSittin(3, 10, 20, 30, 40, 1, 1);
+    EXPECT_EQ(GantiTanda(buruj, "0").teks(), "03 10 20 30 40 0");
+    EXPECT_EQ(AmbilTingkat(GantiTanda(buruj, "0"), 11), 0);
+    EXPECT_EQ(GantiTanda(DlorbuSittin(0, 200, 5, 0, 0, 1, 2), "0").teks(), "00 200 05 00 00 0");
+    EXPECT_EQ(GantiTanda(AlamahTarkh(0, {0, 0, 0, 1, 2, 3, 4, 5, 6}, 1), "0").teks(), "000 00 00 01 02 03 04 05 06 0");
+    EXPECT_EQ(GantiTanda(DlorbuSittin(0, 1, 0, 0, 0, 10, 2), "1").teks(), "00 001 00 00 00 11");
+    EXPECT_EQ(NolkanBuruj(DlorbuSittin(5, 10, 20, 0, 0, 0, 1)).teks(), "00 10 20 00 00 0");
+    EXPECT_EQ(AmbilTingkat(NolkanBuruj(buruj), 1), 0);
+    EXPECT_EQ(NolkanBuruj(DlorbuSittin(0, 250, 1, 2, 3, 1, 2)).teks(), "00 250 01 02 03 1");
     EXPECT_EQ(TandaKurung(1, "x"), "(+) x");
     EXPECT_EQ(TandaKurung(0, ""), "(-)");
     EXPECT_EQ(TandaKurung(7, "y"), "(-) y");

@@ -124,6 +124,24 @@ TEST(CariTabel, MovedTableStillFindsItsRows) {
     EXPECT_FALSE(a.terbuka());
 }
 
+TEST(CariTabel, ColumnNamedOnceFollowsTheTableWhenItIsOpenedAnew) {
+    Tabel t = dariCsv("Cari,v\n7,x\n");
+    const KolomTabel kunci{"Cari"}, isi{"v"}, hilang{"w"};
+    ASSERT_TRUE(t.cari(kunci.di(t), int64_t{7}));
+    EXPECT_EQ(t.baca(isi.di(t)), "x");
+    EXPECT_FALSE(t.cari(hilang.di(t), "x"));
+    EXPECT_TRUE(t.eof());
+
+    // The same names now stand in other places: the positions found before must not be used.
+    ASSERT_EQ(t.bacaCsv("v,u,Cari\ny,z,7\n"), "");
+    ASSERT_TRUE(t.cari(kunci.di(t), int64_t{7}));
+    EXPECT_EQ(t.baca(isi.di(t)), "y");
+    Tabel lain = dariCsv("v\nq\n");
+    lain.moveFirst();
+    EXPECT_EQ(lain.baca(isi.di(lain)), "q");
+    EXPECT_EQ(kunci.di(lain), -1);
+}
+
 TEST(TulisAtomik, ReplacesTheFileWholeAndLeavesNoTemporaryFile) {
     const auto folder =
         std::filesystem::path(testing::TempDir()) / ("falak-atomik-" + std::to_string(getpid())) / "dalam";

@@ -105,8 +105,19 @@ bool tafawutNegatif(int bulan, int hari) {
     }
 }
 
-constexpr std::array<const char*, 12> kKolomTafawut = {"Jan", "Peb", "Mar", "Apr", "Mei", "juni",
-                                                       "juli", "Agus", "Sept", "Okt", "Nop", "Des"};
+// The minutes (first) and seconds of the equation of time by civil month.
+constexpr std::array<std::array<const char*, 2>, 12> kKolomTafawut = {{{"Jan1", "Jan2"},
+                                                                      {"Peb1", "Peb2"},
+                                                                      {"Mar1", "Mar2"},
+                                                                      {"Apr1", "Apr2"},
+                                                                      {"Mei1", "Mei2"},
+                                                                      {"juni1", "juni2"},
+                                                                      {"juli1", "juli2"},
+                                                                      {"Agus1", "Agus2"},
+                                                                      {"Sept1", "Sept2"},
+                                                                      {"Okt1", "Okt2"},
+                                                                      {"Nop1", "Nop2"},
+                                                                      {"Des1", "Des2"}}};
 
 // A time as an arc value of hours (Darojah), minutes, seconds, and back.
 Nilai jamKeNilai(const Waktu& w) {
@@ -120,6 +131,11 @@ Waktu nilaiKeJam(const Nilai& v) {
 }
 
 }  // namespace
+
+ClsKesimpulan::ClsKesimpulan(Sesi& sesi) : sesi_(sesi) {
+    for (size_t b = 0; b < kKolomTafawut.size(); ++b)
+        for (size_t i = 0; i < 2; ++i) kolomTafawut_[b][i] = kKolomTafawut[b][i];
+}
 
 std::optional<Nilai> ClsKesimpulan::ConvertToHijri(int32_t tahun, int32_t bulan, int32_t tanggal) {
     const int64_t H = tahun, B = bulan, T = tanggal;
@@ -199,15 +215,12 @@ std::string ClsKesimpulan::ManaBln(int bulan) {
     return (bulan >= 1 && bulan <= 12) ? kNama[bulan - 1] : "";
 }
 
-Waktu ClsKesimpulan::keZona(int bulan, int hari, Waktu waktu) const {
-    if (bulan < 1 || bulan > 12 || !sesi_.koneksi) return waktu;
-    Tabel& tabel = sesi_.koneksi->TafawutWIB;
-    if (!tabel.cari("tgl", hari)) return waktu;
-    const std::string kolom = kKolomTafawut[static_cast<size_t>(bulan - 1)];
-    const int menit = BacaBulat(tabel, kolom + "1");
-    const int detik = BacaBulat(tabel, kolom + "2");
-
+const ClsKesimpulan::SelisihTempat& ClsKesimpulan::selisihTempat() const {
     const Tempat& t = sesi_.tempat;
+    const auto& s = selisihTempat_;
+    if (s && s->tandaBujur == t.tandaBujur && s->bujurDerajat == t.bujurDerajat && s->bujurMenit == t.bujurMenit &&
+        s->zona == t.zona)
+        return *s;
     const Nilai bujur =
         DlorbuSittin(0, t.bujurDerajat, t.bujurMenit, 0, 0, AmbilTanda(Nilai(t.tandaBujur)), ModusDarojah);
     const Nilai selisih =
@@ -216,10 +229,22 @@ Waktu ClsKesimpulan::keZona(int bulan, int hari, Waktu waktu) const {
         BagiNilai(JenisBusur, TandaIkut, ModusDarojah, selisih, DlorbuSittin(0, 15, 0, 0, 0, 1, ModusDarojah))
             .value_or(selisih);
     const Nilai zona = DlorbuSittin(0, std::abs(t.zona - 7), 0, 0, 0, t.zona < 7 ? 0 : 1, ModusDarojah);
-    const Nilai tafawut = DlorbuSittin(0, 0, menit, detik, 0, tafawutNegatif(bulan, hari) ? 0 : 1, ModusDarojah);
+    selisihTempat_ = SelisihTempat{t.tandaBujur, t.bujurDerajat, t.bujurMenit, t.zona, jamBujur, zona};
+    return *selisihTempat_;
+}
 
+Waktu ClsKesimpulan::keZona(int bulan, int hari, Waktu waktu) const {
+    if (bulan < 1 || bulan > 12 || !sesi_.koneksi) return waktu;
+    Tabel& tabel = sesi_.koneksi->TafawutWIB;
+    if (!tabel.cari(kolomTanggal_.di(tabel), hari)) return waktu;
+    const auto& kolom = kolomTafawut_[static_cast<size_t>(bulan - 1)];
+    const int menit = BacaBulat(tabel, kolom[0].di(tabel));
+    const int detik = BacaBulat(tabel, kolom[1].di(tabel));
+
+    const SelisihTempat& tempat = selisihTempat();
+    const Nilai tafawut = DlorbuSittin(0, 0, menit, detik, 0, tafawutNegatif(bulan, hari) ? 0 : 1, ModusDarojah);
     Nilai hasil = KurangNilai(JenisBusur, TandaIkut, ModusDarojah, jamKeNilai(waktu), tafawut);
-    hasil = TambahNilai(JenisBusur, TandaIkut, ModusDarojah, hasil, jamBujur, zona);
+    hasil = TambahNilai(JenisBusur, TandaIkut, ModusDarojah, hasil, tempat.jamBujur, tempat.jamZona);
     return nilaiKeJam(hasil);
 }
 

@@ -10,6 +10,7 @@
 // AmbilTingkat (6 year, 7 month, 8 day, 9 pasaran, 10 weekday).
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -17,6 +18,7 @@
 
 #include "core/Nilai.h"
 #include "core/Sesi.h"
+#include "core/Tabel.h"
 #include "core/Waktu.h"
 
 namespace falak {
@@ -30,7 +32,7 @@ struct TitikMarkaz {
 
 class ClsKesimpulan {
 public:
-    explicit ClsKesimpulan(Sesi& sesi) : sesi_(sesi) {}
+    explicit ClsKesimpulan(Sesi& sesi);
 
     // The day near the end of Hijri month (tahun, bulan) that falls on the reckoned weekday:
     // the one of the seven days from the 27th on (past the month's end the count runs on into
@@ -105,8 +107,20 @@ public:
 private:
     // The words of a lunar eclipse's date line, once its day is known.
     std::string barisGerhanaB(const Nilai& tanggal, const Nilai& jam, int16_t hariHijri) const;
+    // The place's share of the zone time: the hours of its longitude from the zone's meridian
+    // and the zone's hours from WIB, kept with the place they were worked out for.
+    struct SelisihTempat {
+        std::string tandaBujur;
+        int16_t bujurDerajat = 0, bujurMenit = 0, zona = 0;
+        Nilai jamBujur, jamZona;
+    };
+    const SelisihTempat& selisihTempat() const;
 
     Sesi& sesi_;
+    mutable std::optional<SelisihTempat> selisihTempat_;
+    // The equation of time's minutes and seconds by civil month, and the day column.
+    std::array<std::array<KolomTabel, 2>, 12> kolomTafawut_;
+    KolomTabel kolomTanggal_{"tgl"};
 };
 
 }  // namespace falak

@@ -55,6 +55,8 @@ int32_t AmbilTingkat(const Nilai& v, int indeks) {
 }
 
 Nilai GantiTanda(const Nilai& v, std::string_view tanda) {
+    if (!tanda.empty() && tanda.back() >= '0' && tanda.back() <= '9')
+        if (auto w = v.denganTanda(tanda.back() - '0')) return std::move(*w);
     std::string teks = v.teks();
     if (!teks.empty()) teks.pop_back();
     if (!tanda.empty()) teks.push_back(tanda.back());
@@ -64,6 +66,7 @@ Nilai GantiTanda(const Nilai& v, std::string_view tanda) {
 Nilai TandaBusur(const Nilai& v) { return GantiTanda(v, AmbilTingkat(v, 2) > 180 ? "0" : "1"); }
 
 Nilai NolkanBuruj(const Nilai& v) {
+    if (auto w = v.tanpaBuruj()) return std::move(*w);
     const std::string teks = v.teks();
     const size_t blank = teks.find(' ');
     return Nilai("00" + (blank == std::string::npos ? std::string() : teks.substr(blank)));
@@ -119,6 +122,7 @@ Hasil DesimalKeBusur(double x, bool lingkaran) {
 namespace {
 
 // The common frame of addition and subtraction: the accumulator takes each operand in turn.
+// Each operand's magnitude is worked out once and handed to the step with the accumulator's.
 template <typename Langkah>
 Nilai jumlahkan(int jenis, int tanda, int modus, const std::array<const Nilai*, 6>& v, Langkah langkah) {
     const bool urutTetap = tanda == 4;
@@ -128,9 +132,10 @@ Nilai jumlahkan(int jenis, int tanda, int modus, const std::array<const Nilai*, 
     for (size_t k = 1; k < v.size() && !v[k]->kosong(); ++k) {
         const Nilai& op = *v[k];
         const double besarAcc = NilaiDesimal(jenis, acc);
-        const bool lebih = jenis == 3 ? NilaiDesimal(jenis, op) < besarAcc : true;
+        const double besarOp = NilaiDesimal(jenis, op);
+        const bool lebih = jenis == 3 ? besarOp < besarAcc : true;
         MedanAlamah r{};
-        int tandaHasil = langkah(acc, op, besarAcc == 0, lebih, urutTetap, tanda, n, r);
+        int tandaHasil = langkah(acc, op, besarAcc, besarOp, lebih, urutTetap, tanda, n, r);
         if (tanda == 2) tandaHasil = 1;
         acc = selesaikan(jenis, modus, r, tandaHasil);
     }
@@ -146,9 +151,11 @@ void jumlahMedanNilai(const Nilai& a, const Nilai& b, int n, int arah, MedanAlam
 Nilai TambahNilai(int jenis, int tanda, int modus, const Nilai& v1, const Nilai& v2, const Nilai& v3,
                   const Nilai& v4, const Nilai& v5, const Nilai& v6) {
     return jumlahkan(jenis, tanda, modus, {&v1, &v2, &v3, &v4, &v5, &v6},
-                     [jenis](const Nilai& acc, const Nilai& op, bool accNol, bool lebih, bool urutTetap, int tanda,
-                             int n, MedanAlamah& r) {
-                         const int s = TandaTerbesar(jenis, acc, op);
+                     [](const Nilai& acc, const Nilai& op, double besarAcc, double besarOp, bool lebih,
+                        bool urutTetap, int tanda, int n, MedanAlamah& r) {
+                         const bool accNol = besarAcc == 0;
+                         // The sign of the greater magnitude, as TandaTerbesar gives it.
+                         const int s = besarOp < besarAcc ? acc.tanda() : op.tanda();
                          if (acc.tanda() != op.tanda() && tanda != 1) {
                              if (accNol) r = medanDari(op, n);
                              else if (!lebih && !urutTetap) jumlahMedanNilai(op, acc, n, -1, r);
@@ -163,8 +170,9 @@ Nilai TambahNilai(int jenis, int tanda, int modus, const Nilai& v1, const Nilai&
 Nilai KurangNilai(int jenis, int tanda, int modus, const Nilai& v1, const Nilai& v2, const Nilai& v3,
                   const Nilai& v4, const Nilai& v5, const Nilai& v6) {
     return jumlahkan(jenis, tanda, modus, {&v1, &v2, &v3, &v4, &v5, &v6},
-                     [jenis](const Nilai& acc, const Nilai& op, bool accNol, bool lebih, bool urutTetap, int tanda,
-                             int n, MedanAlamah& r) {
+                     [jenis](const Nilai& acc, const Nilai& op, double besarAcc, double /*besarOp*/, bool lebih,
+                             bool urutTetap, int tanda, int n, MedanAlamah& r) {
+                         const bool accNol = besarAcc == 0;
                          if (acc.tanda() != op.tanda() && tanda != 1) {
                              if (jenis == 3 && accNol) r = medanDari(op, n);
                              else jumlahMedanNilai(acc, op, n, 1, r);

@@ -80,6 +80,23 @@ Nilai Nilai::alamah(const std::array<int64_t, 9>& medan, int tanda) {
     return v;
 }
 
+std::optional<Nilai> Nilai::denganTanda(int digit) const {
+    if (bentuk_ == Bentuk::Teks || tandaAngka_ < 0 || tandaAngka_ > 9 || digit < 0 || digit > 9) return std::nullopt;
+    Nilai v = *this;
+    v.tandaAngka_ = digit;
+    v.tanda_ = static_cast<int8_t>(digit);
+    // An arc value's sign is its sixth field.
+    if (bentuk_ == Bentuk::Busur) v.medan_[5] = digit;
+    return v;
+}
+
+std::optional<Nilai> Nilai::tanpaBuruj() const {
+    if (bentuk_ != Bentuk::Busur) return std::nullopt;
+    Nilai v = *this;
+    v.medan_[0] = 0;
+    return v;
+}
+
 std::string Nilai::teks() const {
     switch (bentuk_) {
         case Bentuk::Teks:

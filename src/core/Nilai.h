@@ -37,6 +37,11 @@ public:
 
     // The exact text.
     std::string teks() const;
+    // The value with its sign digit replaced, for a value the arithmetic made whose sign is
+    // one digit: the text is then known without printing it. No result for any other value.
+    std::optional<Nilai> denganTanda(int digit) const;
+    // An arc value the arithmetic made with Buruj 0; no result for any other value.
+    std::optional<Nilai> tanpaBuruj() const;
     // Field at blank-separated position p (1 to 9) as a 32-bit whole number: a field that is
     // not a number, or lies past the end, reads 0.
     int32_t posisi(int p) const {

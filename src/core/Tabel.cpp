@@ -129,6 +129,7 @@ Tabel& Tabel::operator=(Tabel&& lain) noexcept {
     sel_ = std::move(lain.sel_);
     baris_ = lain.baris_;
     kursor_ = lain.kursor_;
+    ++versiKolom_;
     // A short text moves its characters with it: the indexes' views would point into the old one.
     indeks_.clear();
     indeks_.resize(kolom_.size());
@@ -147,6 +148,7 @@ void Tabel::tutup() {
     baris_ = 0;
     kursor_ = 0;
     indeks_.clear();
+    ++versiKolom_;
 }
 
 void Tabel::bukaKosong(std::vector<std::string> kolom) {
@@ -154,6 +156,7 @@ void Tabel::bukaKosong(std::vector<std::string> kolom) {
     kolom_ = std::move(kolom);
     for (size_t k = 0; k < kolom_.size(); ++k) posisiKolom_.emplace(kolom_[k], k);
     indeks_.resize(kolom_.size());
+    ++versiKolom_;
     terbuka_ = true;
 }
 
@@ -270,18 +273,21 @@ void Tabel::lupakanIndeks() {
     for (auto& i : indeks_) i.reset();
 }
 
-bool Tabel::cari(std::string_view kolom, std::string_view kunci) {
+bool Tabel::cari(std::string_view kolom, std::string_view kunci) { return cari(indeksKolom(kolom), kunci); }
+
+bool Tabel::cari(std::string_view kolom, int64_t kunci) { return cari(indeksKolom(kolom), kunci); }
+
+bool Tabel::cari(int kolom, std::string_view kunci) {
     kursor_ = baris_;
-    const int k = indeksKolom(kolom);
-    if (k < 0) return false;
-    const Indeks& idx = indeks(static_cast<size_t>(k));
+    if (kolom < 0 || static_cast<size_t>(kolom) >= kolom_.size()) return false;
+    const Indeks& idx = indeks(static_cast<size_t>(kolom));
     const auto it = idx.find(kunci);
     if (it == idx.end()) return false;
     kursor_ = it->second;
     return true;
 }
 
-bool Tabel::cari(std::string_view kolom, int64_t kunci) {
+bool Tabel::cari(int kolom, int64_t kunci) {
     char buf[24];
     const auto [akhir, ec] = std::to_chars(buf, buf + sizeof buf, kunci);
     (void)ec;
@@ -330,7 +336,9 @@ std::string BacaTeks(const Tabel& tabel, std::string_view kolom) {
     return v ? std::string(*v) : std::string();
 }
 
-int32_t BacaBulat(const Tabel& tabel, std::string_view kolom) {
+int32_t BacaBulat(const Tabel& tabel, std::string_view kolom) { return BacaBulat(tabel, tabel.indeksKolom(kolom)); }
+
+int32_t BacaBulat(const Tabel& tabel, int kolom) {
     const auto v = tabel.baca(kolom);
     return v ? BulatGenap32(ValAngka(*v)).value_or(0) : 0;
 }

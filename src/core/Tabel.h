@@ -63,6 +63,9 @@ public:
     const std::vector<std::string>& kolom() const { return kolom_; }
     // The position of a column, or -1 when the table has no such column.
     int indeksKolom(std::string_view nama) const;
+    // Moves on whenever the columns may have changed (the table was opened anew or closed):
+    // a position found before is then to be looked up again.
+    uint64_t versiKolom() const { return versiKolom_; }
     size_t jumlahBaris() const { return baris_; }
     // A cell; an empty text outside the table.
     std::string_view sel(size_t baris, size_t kolom) const;
@@ -72,6 +75,9 @@ public:
     bool cari(std::string_view kolom, std::string_view kunci);
     // The same with a whole-number key, printed as the books' keys are ("Cari = '360'").
     bool cari(std::string_view kolom, int64_t kunci);
+    // The same on a column given by its position.
+    bool cari(int kolom, std::string_view kunci);
+    bool cari(int kolom, int64_t kunci);
     void moveFirst() { kursor_ = 0; }
     void moveNext() {
         if (kursor_ < baris_) ++kursor_;
@@ -114,7 +120,32 @@ private:
     std::vector<Sel> sel_;   // rows x columns, row by row
     size_t baris_ = 0;
     size_t kursor_ = 0;
+    uint64_t versiKolom_ = 0;
     std::vector<std::unique_ptr<Indeks>> indeks_;  // per column, made at its first search
+};
+
+// A column that a reader names once and reads by position: the name is looked up at the first
+// read and again only when the table's columns may have changed since. The reader keeps it,
+// so that the many look-ups of a run hash no names.
+class KolomTabel {
+public:
+    constexpr KolomTabel(const char* nama = nullptr) : nama_(nama) {}  // NOLINT: named as written
+    // The column's position in the table, or -1 when it has none (or no name is given).
+    int di(const Tabel& tabel) const {
+        if (tabel_ != &tabel || versi_ != tabel.versiKolom()) {
+            tabel_ = &tabel;
+            versi_ = tabel.versiKolom();
+            posisi_ = nama_ ? tabel.indeksKolom(nama_) : -1;
+        }
+        return posisi_;
+    }
+    const char* nama() const { return nama_; }
+
+private:
+    const char* nama_;
+    mutable const Tabel* tabel_ = nullptr;
+    mutable uint64_t versi_ = 0;
+    mutable int posisi_ = -1;
 };
 
 // A field of the current row as text: empty when there is none.
@@ -122,5 +153,6 @@ std::string BacaTeks(const Tabel& tabel, std::string_view kolom);
 // A field of the current row as a whole number, read as the kernel reads table cells
 // (ValAngka, rounded half to even); 0 when there is none.
 int32_t BacaBulat(const Tabel& tabel, std::string_view kolom);
+int32_t BacaBulat(const Tabel& tabel, int kolom);
 
 }  // namespace falak

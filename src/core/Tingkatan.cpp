@@ -1,5 +1,6 @@
 #include "core/Tingkatan.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 #include "core/Angka.h"
@@ -32,6 +33,13 @@ void bawaKe(int64_t& bawah, int64_t& atas, int64_t basis) {
 int balik(int tanda) { return tanda == 1 ? 0 : 1; }
 
 bool bulatKeInt(std::string_view teks, int64_t& out) {
+    // A table cell is nearly always a short run of digits, which reads as itself.
+    if (!teks.empty() && teks.size() <= 9 &&
+        std::all_of(teks.begin(), teks.end(), [](char c) { return c >= '0' && c <= '9'; })) {
+        out = 0;
+        for (char c : teks) out = out * 10 + (c - '0');
+        return true;
+    }
     const auto v = BulatGenap32(ValAngka(teks));
     if (!v) return false;
     out = *v;

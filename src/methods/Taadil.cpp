@@ -67,6 +67,13 @@ Kolom kolomIqlim(int lintangDerajat) {
     }
 }
 
+// The slot of a code's columns among those kept by position: the code itself, and for the
+// latitude tables one slot each after code 41.
+size_t slotKolom(int kode, int lintangDerajat) {
+    if (kode != 39) return static_cast<size_t>(kode);
+    return lintangDerajat == 6 ? 42 : (lintangDerajat == 7 ? 43 : 44);
+}
+
 // The key of Syatar1, wrapped into 1 .. the table's top; no key for a step of 0.
 std::optional<int64_t> kunciSyatar(int kode, const Nilai& v, int langkah, bool jam) {
     const int64_t f1 = AmbilTingkat(v, MedanBuruj);
@@ -91,15 +98,22 @@ std::optional<int64_t> kunciSyatar(int kode, const Nilai& v, int langkah, bool j
     return kunci;
 }
 
-// A value from the columns of the current row, positive, in the given form.
-Nilai dariBaris(const Tabel& t, const Kolom& k) {
+// A value from the columns of the current row, positive, in the given form; di gives each
+// named column's position in the table.
+Nilai dariBaris(const Tabel& t, const Kolom& k, const std::array<int, 3>& di) {
     std::string_view medan[5] = {"0", "0", "0", "0", "0"};
     for (int i = 0; i < 3 && k.nama[i]; ++i) {
-        const auto sel = t.baca(k.nama[i]);
+        const auto sel = t.baca(di[static_cast<size_t>(i)]);
         if (!sel) return {};
         medan[k.posisi[i] - 1] = *sel;
     }
     return DlorbuSittin(medan[0], medan[1], medan[2], medan[3], medan[4], 1, k.modus).value_or(Nilai());
+}
+
+std::array<int, 3> posisiNama(const Tabel& t, const Kolom& k) {
+    std::array<int, 3> di{-1, -1, -1};
+    for (size_t i = 0; i < 3 && k.nama[i]; ++i) di[i] = t.indeksKolom(k.nama[i]);
+    return di;
 }
 
 Nilai darojah(int64_t d, int tanda, int modus) { return DlorbuSittin(0, d, 0, 0, 0, tanda, modus); }
@@ -156,6 +170,17 @@ int64_t menit(const Nilai& v) { return int64_t{AmbilTingkat(v, MedanDarojah)} * 
 
 }  // namespace
 
+ClsTaadil::ClsTaadil(Tabel& TRBTaadil, Tabel& TQQTaadil, const Tempat& tempat)
+    : trb_(TRBTaadil), tqq_(TQQTaadil), tempat_(tempat) {
+    for (int kode = 1; kode <= 41; ++kode)
+        if (const auto k = kolomKode(kode))
+            for (size_t i = 0; i < 3; ++i) kolom_[static_cast<size_t>(kode)][i] = k->nama[i];
+    for (int lintang : {6, 7, 8}) {
+        const Kolom k = kolomIqlim(lintang);
+        for (size_t i = 0; i < 3; ++i) kolom_[slotKolom(39, lintang)][i] = k.nama[i];
+    }
+}
+
 Tabel& ClsTaadil::tabelUntuk(int kode) const {
     const bool r = (kode >= 1 && kode <= 7) || (kode >= 22 && kode <= 24) || (kode >= 28 && kode <= 31) ||
                    kode == 33 || kode == 34 || (kode >= 38 && kode <= 41);
@@ -168,13 +193,14 @@ Nilai ClsTaadil::Syatar1(int kode, const Nilai& nilai, int langkah, bool jam) {
     const auto kunci = kunciSyatar(kode, nilai, langkah, jam);
     if (!kunci) return {};
     Tabel& t = tabelUntuk(kode);
-    if (!t.cari("Cari", *kunci)) return {};
+    if (!t.cari((&t == &trb_ ? kunciTrb_ : kunciTqq_).di(t), *kunci)) return {};
+    const auto& nama = kolom_[slotKolom(kode, tempat_.lintangDerajat)];
     if (kode == 7) {
-        const auto sel = t.baca("tdThMasehi");
+        const auto sel = t.baca(nama[0].di(t));
         if (!sel) return {};
         return Nilai("000 00 " + std::string(*sel) + " 00 00 00 00 00 00");
     }
-    return dariBaris(t, *kolom);
+    return dariBaris(t, *kolom, {nama[0].di(t), nama[1].di(t), nama[2].di(t)});
 }
 
 Nilai ClsTaadil::TaadilKusfM(int kode, const Nilai& nilai, int langkah, bool jam, int& langkahIqlim) {
@@ -265,7 +291,7 @@ bool ClsTaadil::gandaIsi(std::span<Nilai> baris, int kode, const Nilai& a, const
     };
     const int64_t dasar = j + i * kLangkahGanda;
     const auto entri = [&](int64_t k) {
-        return trb_.cari(g->kolomKunci, kunci(k)) ? dariBaris(trb_, g->kolom) : Nilai();
+        return trb_.cari(g->kolomKunci, kunci(k)) ? dariBaris(trb_, g->kolom, posisiNama(trb_, g->kolom)) : Nilai();
     };
     const Nilai e1 = entri(dasar);
     const bool ada = !e1.kosongTeks();

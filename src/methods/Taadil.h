@@ -39,8 +39,7 @@ class ClsTaadil {
 public:
     // The tables it reads, and the place whose latitude picks the columns of code 39; all are
     // read at the time of each call.
-    ClsTaadil(Tabel& TRBTaadil, Tabel& TQQTaadil, const Tempat& tempat)
-        : trb_(TRBTaadil), tqq_(TQQTaadil), tempat_(tempat) {}
+    ClsTaadil(Tabel& TRBTaadil, Tabel& TQQTaadil, const Tempat& tempat);
 
     // The argument unchanged: the first line of a worked look-up.
     static Nilai Madkhul(const Nilai& nilai) { return nilai; }
@@ -115,6 +114,12 @@ private:
     Tabel& trb_;
     Tabel& tqq_;
     const Tempat& tempat_;
+    // The columns that Syatar1 reads, by table code (the latitude columns of code 39 after
+    // code 41), and the key column of each table: named once, read by position.
+    static constexpr size_t kSlotKolom = 45;
+    std::array<std::array<KolomTabel, 3>, kSlotKolom> kolom_{};
+    KolomTabel kunciTrb_{"Cari"};
+    KolomTabel kunciTqq_{"Cari"};
 };
 
 }  // namespace falak

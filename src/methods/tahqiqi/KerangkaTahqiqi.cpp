@@ -10,6 +10,7 @@
 #include "core/Koneksi.h"
 #include "core/Maghrib.h"
 #include "core/Sesi.h"
+#include "core/Tabel.h"
 #include "methods/Lembar.h"
 #include "methods/Taadil.h"
 
@@ -35,14 +36,50 @@ constexpr const char* kKolomJam[5][3] = {{nullptr, "wsQohS", "wsNiiS"},
 
 constexpr int kBujurJadwal[2] = {112, 13};  // the tables' longitude
 
+template <size_t N>
+std::array<std::array<KolomTabel, N>, 5> kolomUnsur(const char* const (&nama)[5][N]) {
+    std::array<std::array<KolomTabel, N>, 5> k;
+    for (size_t e = 0; e < 5; ++e)
+        for (size_t i = 0; i < N; ++i) k[e][i] = nama[e][i];
+    return k;
+}
+
+// A cell of the current row as text: empty when there is none.
+std::string_view sel(const Tabel& t, const KolomTabel& k) { return t.baca(k.di(t)).value_or(std::string_view()); }
+
 Nilai nol() { return Nilai("00 00 00 00 00 1"); }
 Nilai nolAlamah() { return Nilai("000 00 00 00 00 00 00 00 00 1"); }
 
 }  // namespace
 
+// The columns of a table of motions (the single years, the months, the days run).
+struct KerangkaTahqiqi::KolomGerak {
+    KolomTabel cari{"Cari"}, pasaran{"Pasaran"}, hari{"Hari"};
+    std::array<std::array<KolomTabel, 4>, 5> unsur = kolomUnsur(kKolom);
+};
+
+// Every column the skeleton reads, named once and read by position: the run's many look-ups
+// then hash no names.
+struct KerangkaTahqiqi::KolomBaca {
+    KolomGerak thMab, syahru, yaumTam;
+    // The motion of hours (TQQSaah) and of minutes with the daqa'iq tafawut (TQQDaqoiqAhTaf).
+    KolomTabel cariJam{"Cari"};
+    std::array<std::array<KolomTabel, 3>, 5> unsurJam = kolomUnsur(kKolomJam);
+    KolomTabel cariTafawut{"Cari"}, tanda{"Tanda"}, qohTafawut{"QohTafawut"}, daqoiq{"Daqoiq"};
+    std::array<std::array<KolomTabel, 3>, 5> unsurMenit = kolomUnsur(kKolomJam);
+};
+
 KerangkaTahqiqi::KerangkaTahqiqi(Konteks k, const DataKitabTahqiqi& data)
     : Hasil(static_cast<size_t>(data.jumlahHasil)), HasilTeks(static_cast<size_t>(data.jumlahHasil)), k_(k),
-      data_(data) {}
+      data_(data), kolom_(std::make_unique<KolomBaca>()) {
+    for (size_t i = 0; i < 6; ++i) {
+        mabda_[i] = Nilai(data.mabda[i]);
+        tambah_[i] = Nilai(data.tambah[i]);
+        kurang_[i] = Nilai(data.kurang[i]);
+    }
+}
+
+KerangkaTahqiqi::~KerangkaTahqiqi() = default;
 
 double KerangkaTahqiqi::derajat(const Nilai& v) {
     const double d = AmbilTingkat(v, MedanBuruj) * 30.0 + AmbilTingkat(v, MedanDarojah) +
@@ -80,7 +117,7 @@ double KerangkaTahqiqi::lintang() const {
 void KerangkaTahqiqi::tahun(int32_t tahun) {
     const int32_t y = tahun - 1;
     int32_t pengali;
-    const std::array<const char*, 6>* baris = &data_.tambah;
+    const std::array<Nilai, 6>* baris = &tambah_;
     int32_t sisa;
     if (y >= 30) {
         Dawr = y / 30;
@@ -94,7 +131,7 @@ void KerangkaTahqiqi::tahun(int32_t tahun) {
         Dawr = (y - 30) / 30;
         pengali = std::abs(Dawr);
         sisa = y + 1 - Dawr * 30;
-        baris = &data_.kurang;
+        baris = &kurang_;
         if (sisa == 30) {
             Dawr += 1;
             pengali -= 1;
@@ -102,22 +139,16 @@ void KerangkaTahqiqi::tahun(int32_t tahun) {
         }
     }
     SisaTahun = static_cast<int16_t>(sisa);
-    std::array<Nilai, 6> mabda, langkah;
-    for (size_t i = 0; i < 6; ++i) {
-        mabda[i] = Nilai(data_.mabda[i]);
-        langkah[i] = Nilai((*baris)[i]);
-    }
-    HitungMajmuah(TarikhMajmu.semua(), mabda, langkah, pengali, 0, data_.modus);
+    HitungMajmuah(TarikhMajmu.semua(), mabda_, *baris, pengali, 0, data_.modus);
 }
 
-void KerangkaTahqiqi::bacaGerak(Baris<6>& b, Tabel& t, int64_t kunci) {
-    if (!t.cari("Cari", kunci)) return;
-    b(1) = AlamahTarkh(0, {"0", "0", "0", BacaTeks(t, "Pasaran"), BacaTeks(t, "Hari"), "0", "0", "0", "0"}, 1)
+void KerangkaTahqiqi::bacaGerak(Baris<6>& b, Tabel& t, const KolomGerak& kolom, int64_t kunci) {
+    if (!t.cari(kolom.cari.di(t), kunci)) return;
+    b(1) = AlamahTarkh(0, {"0", "0", "0", sel(t, kolom.pasaran), sel(t, kolom.hari), "0", "0", "0", "0"}, 1)
                .value_or(b(1));
     for (size_t e = 0; e < 5; ++e) {
-        const auto& k = kKolom[e];
-        isi(b(e + 2), DlorbuSittin(BacaTeks(t, k[0]), BacaTeks(t, k[1]), BacaTeks(t, k[2]), BacaTeks(t, k[3]), "0", 1,
-                                   data_.modus));
+        const auto& k = kolom.unsur[e];
+        isi(b(e + 2), DlorbuSittin(sel(t, k[0]), sel(t, k[1]), sel(t, k[2]), sel(t, k[3]), "0", 1, data_.modus));
     }
 }
 
@@ -143,7 +174,7 @@ void KerangkaTahqiqi::hitungHari(int32_t tahun, int16_t bulan) {
     if (d < 1) d += 7;
     const int hari = HariBerjalan(d);
     Hari = std::to_string(hari);
-    bacaGerak(YaumTam, k_.koneksi.TQQYaumTam, hari);
+    bacaGerak(YaumTam, k_.koneksi.TQQYaumTam, kolom_->yaumTam, hari);
 }
 
 // The mean noon of the tables moved to the apparent noon by the minutes of the equation of
@@ -152,14 +183,15 @@ void KerangkaTahqiqi::hitungTafawut() {
     int k = AmbilTingkat(Jumlah(2), MedanBuruj) * 30 + AmbilTingkat(Jumlah(2), MedanDarojah);
     if (k > 360) k -= 360;
     Tabel& t = k_.koneksi.TQQDaqoiqAhTaf;
-    if (!t.cari("Cari", k)) return;
-    tandaTafawut = BacaTeks(t, "Tanda");
+    const KolomBaca& kb = *kolom_;
+    if (!t.cari(kb.cariTafawut.di(t), k)) return;
+    tandaTafawut = sel(t, kb.tanda);
     const int tanda = tandaTafawut == "+" ? 1 : 0;
-    const std::string menit = BacaTeks(t, "QohTafawut");
+    const std::string menit(sel(t, kb.qohTafawut));
     Tafawut(1) = Nilai(tandaTafawut + " " + menit);
-    if (!t.cari("Daqoiq", menit)) return;
+    if (!t.cari(kb.daqoiq.di(t), menit)) return;
     for (size_t e = 0; e < 5; ++e)
-        isi(Tafawut(e + 2), DlorbuSittin("0", "0", BacaTeks(t, kKolomJam[e][1]), BacaTeks(t, kKolomJam[e][2]), "0",
+        isi(Tafawut(e + 2), DlorbuSittin("0", "0", sel(t, kb.unsurMenit[e][1]), sel(t, kb.unsurMenit[e][2]), "0",
                                          tanda, data_.modus));
 }
 
@@ -177,18 +209,19 @@ void KerangkaTahqiqi::hitungThul() {
     const int jam = AmbilTingkat(alamah, MedanJam);
     // The minutes to the nearest: the seconds of the difference round into them.
     const int menit = AmbilTingkat(alamah, MedanMenit) + (AmbilTingkat(alamah, MedanDetik) >= 30 ? 1 : 0);
+    const KolomBaca& kb = *kolom_;
     Tabel& s = k_.koneksi.TQQSaah;
-    if (jam != 0 && s.cari("Cari", jam)) {
+    if (jam != 0 && s.cari(kb.cariJam.di(s), jam)) {
         for (size_t e = 0; e < 5; ++e) {
-            const auto& kk = kKolomJam[e];
-            isi(Thul(e + 2), DlorbuSittin("0", kk[0] ? BacaTeks(s, kk[0]) : "0", BacaTeks(s, kk[1]), BacaTeks(s, kk[2]),
-                                          "0", tanda, data_.modus));
+            const auto& kk = kb.unsurJam[e];
+            isi(Thul(e + 2), DlorbuSittin("0", kk[0].nama() ? sel(s, kk[0]) : "0", sel(s, kk[1]), sel(s, kk[2]), "0",
+                                          tanda, data_.modus));
         }
     }
     Tabel& m = k_.koneksi.TQQDaqoiqAhTaf;
-    if (menit != 0 && m.cari("Daqoiq", menit)) {
+    if (menit != 0 && m.cari(kb.daqoiq.di(m), menit)) {
         for (size_t e = 0; e < 5; ++e) {
-            const Nilai v = DlorbuSittin("0", "0", BacaTeks(m, kKolomJam[e][1]), BacaTeks(m, kKolomJam[e][2]), "0", tanda,
+            const Nilai v = DlorbuSittin("0", "0", sel(m, kb.unsurMenit[e][1]), sel(m, kb.unsurMenit[e][2]), "0", tanda,
                                          data_.modus)
                                 .value_or(nol());
             Thul(e + 2) = TambahNilai(JenisBusur, TandaIkut, data_.modus, Thul(e + 2), v);
@@ -204,17 +237,18 @@ void KerangkaTahqiqi::hitungGurub() {
     const Waktu w = WaktuMaghrib(d, 0, k_.sesi.tempat).terbenam;
     jamGurub_ = w.jam();
     menitGurub_ = w.menit();
+    const KolomBaca& kb = *kolom_;
     Tabel& s = k_.koneksi.TQQSaah;
     Tabel& m = k_.koneksi.TQQDaqoiqAhTaf;
-    const bool adaJam = s.cari("Cari", jamGurub_);
+    const bool adaJam = s.cari(kb.cariJam.di(s), jamGurub_);
     for (size_t e = 0; e < 5 && adaJam; ++e) {
-        const auto& kk = kKolomJam[e];
-        isi(Saah(e + 2), DlorbuSittin("0", kk[0] ? BacaTeks(s, kk[0]) : "0", BacaTeks(s, kk[1]), BacaTeks(s, kk[2]), "0",
-                                      1, data_.modus));
+        const auto& kk = kb.unsurJam[e];
+        isi(Saah(e + 2), DlorbuSittin("0", kk[0].nama() ? sel(s, kk[0]) : "0", sel(s, kk[1]), sel(s, kk[2]), "0", 1,
+                                      data_.modus));
     }
-    const bool adaMenit = m.cari("Daqoiq", menitGurub_);
+    const bool adaMenit = m.cari(kb.daqoiq.di(m), menitGurub_);
     for (size_t e = 0; e < 5 && adaMenit; ++e)
-        isi(Daqoiq(e + 2), DlorbuSittin("0", "0", BacaTeks(m, kKolomJam[e][1]), BacaTeks(m, kKolomJam[e][2]), "0", 1,
+        isi(Daqoiq(e + 2), DlorbuSittin("0", "0", sel(m, kb.unsurMenit[e][1]), sel(m, kb.unsurMenit[e][2]), "0", 1,
                                         data_.modus));
     Saah(1) = AlamahTarkh(0, {0, 0, 0, 0, 0, jamGurub_, 0, 0, 0}, 1);
     Daqoiq(1) = AlamahTarkh(0, {0, 0, 0, 0, 0, 0, menitGurub_, 0, 0}, 1);
@@ -228,13 +262,14 @@ void KerangkaTahqiqi::Siapkan(int32_t tahun_, int16_t bulan) {
                          ClsKesimpulan::ConvertToHijri(tahun_ + 1, 1, 1).value_or(Nilai());
     Bulan = static_cast<int16_t>(bulan == 12 && kabisat ? 13 : bulan);
 
-    for (auto [baris, tabel, kunci] : {std::tuple{&TarikhMabsut, &k_.koneksi.TQQthMab, int64_t{SisaTahun}},
-                                       std::tuple{&Syahr, &k_.koneksi.TQQSyahru, int64_t{Bulan}}}) {
+    for (auto [baris, tabel, kolom, kunci] :
+         {std::tuple{&TarikhMabsut, &k_.koneksi.TQQthMab, &kolom_->thMab, int64_t{SisaTahun}},
+          std::tuple{&Syahr, &k_.koneksi.TQQSyahru, &kolom_->syahru, int64_t{Bulan}}}) {
         if (kunci == 0) {
             (*baris)(1) = nolAlamah();
             for (size_t i = 2; i <= 6; ++i) (*baris)(i) = nol();
         } else {
-            bacaGerak(*baris, *tabel, kunci);
+            bacaGerak(*baris, *tabel, *kolom, kunci);
         }
     }
     hitungHari(tahun_, bulan);

@@ -19,6 +19,7 @@
 
 #include <array>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -96,6 +97,8 @@ public:
     // The hilal's values as the sheet shows them (a run without a sheet leaves them).
     void tulisHasilTeks();
 
+    ~KerangkaTahqiqi() override;
+
 protected:
     KerangkaTahqiqi(Konteks k, const DataKitabTahqiqi& data);
 
@@ -112,8 +115,11 @@ protected:
     Konteks k_;
 
 private:
+    struct KolomBaca;
+    struct KolomGerak;
+
     void tahun(int32_t tahun);
-    void bacaGerak(Baris<6>& baris, Tabel& t, int64_t kunci);
+    void bacaGerak(Baris<6>& baris, Tabel& t, const KolomGerak& kolom, int64_t kunci);
     void hitungHari(int32_t tahun, int16_t bulan);
     void hitungMuqowwam();
     // The reckoning stages, from the years to the hilal.
@@ -126,6 +132,9 @@ private:
     std::vector<BarisTercatat> baris() const;
 
     const DataKitabTahqiqi& data_;
+    // The epoch and the group rows of the data, read once.
+    std::array<Nilai, 6> mabda_, tambah_, kurang_;
+    std::unique_ptr<const KolomBaca> kolom_;
     int32_t tahunRun_ = 0;
     int16_t bulanRun_ = 0;
     int jamGurub_ = 0, menitGurub_ = 0;
