@@ -4,6 +4,7 @@
 
 #include "core/FungsHisab.h"
 #include "core/Koneksi.h"
+#include "eclipse/LangkahGerhana.h"
 
 namespace falak {
 
@@ -31,9 +32,10 @@ TahunTerbagi BagiTahun(int32_t tahun) {
 }
 
 void HitungBarisSullam(Konteks& k, const TahunTerbagi& bagi, int16_t bulan, const std::array<Nilai, 5>& mabda,
-                       std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut, std::span<Nilai, 5> syahr,
-                       std::span<Nilai, 5> jumlah) {
+                       const BarisTahun& baris) {
     using enum TahunTerbagi::Langkah;
+    baris.catat(bulan, bagi);
+    const auto [majmu, mabsut, syahr, jumlah] = baris.pokok();
     std::array<Nilai, 5> langkah;
     for (size_t i = 0; i < 5; ++i) {
         switch (bagi.langkah) {

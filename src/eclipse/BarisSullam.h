@@ -13,6 +13,8 @@
 
 namespace falak {
 
+struct BarisTahun;
+
 // Sullam's split of the year: groups of ten (one more than the whole decades from year 10 on),
 // the group row adding from year 10, adding nothing for years 1 to 9, taking off for year 0
 // and before.
@@ -20,9 +22,8 @@ TahunTerbagi BagiTahun(int32_t tahun);
 
 // Majmu = base +/- the group row times the multiplier, Mabsut the single years, Syahr the
 // month (zero for month 1, which reads no table; a missing row leaves the former cells) and
-// Jumlah their sum.
+// Jumlah their sum; the split and the month are kept with them.
 void HitungBarisSullam(Konteks& k, const TahunTerbagi& bagi, int16_t bulan, const std::array<Nilai, 5>& mabda,
-                       std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut, std::span<Nilai, 5> syahr,
-                       std::span<Nilai, 5> jumlah);
+                       const BarisTahun& baris);
 
 }  // namespace falak

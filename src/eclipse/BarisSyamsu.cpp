@@ -7,6 +7,7 @@
 #include "core/FungsHisab.h"
 #include "core/FungsSH.h"
 #include "core/Tabel.h"
+#include "eclipse/LangkahGerhana.h"
 #include "methods/taqribi/SyamsulHilal.h"
 
 namespace falak {
@@ -51,16 +52,18 @@ float PutarSH(float x) {
     return r < 0 ? r + 360.0f : r;
 }
 
-void SalinBarisSH(const SyamsulHilal& sh, std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut,
-                  std::span<Nilai, 5> syahr, std::span<Nilai, 5> jumlah) {
+void SalinBarisSH(const SyamsulHilal& sh, int16_t bulan, const BarisTahun& baris) {
+    baris.bulan = bulan;
+    baris.dawr = sh.SHDawr;
+    baris.sisaTahun = sh.SHSisaTahun;
     const auto salin = [](const Baris<6, float>& dari, std::span<Nilai, 5> ke) {
         ke[0] = AlamahSH(dari(1), dari(2));
         for (size_t i = 1; i < 5; ++i) ke[i] = NilaiSH(dari(i + 2));
     };
-    salin(sh.SHMajmu, majmu);
-    salin(sh.SHMabsut, mabsut);
-    salin(sh.SHSyahr, syahr);
-    salin(sh.SHJumlah, jumlah);
+    salin(sh.SHMajmu, baris.majmu.semua());
+    salin(sh.SHMabsut, baris.mabsut.semua());
+    salin(sh.SHSyahr, baris.syahr.semua());
+    salin(sh.SHJumlah, baris.jumlah.semua());
 }
 
 void SalinTaadilSH(const SyamsulHilal& sh, const BarisTaadilSH& ke) {

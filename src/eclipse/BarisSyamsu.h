@@ -17,6 +17,7 @@
 namespace falak {
 
 class SyamsulHilal;
+struct BarisTahun;
 class Tabel;
 
 // A decimal (degrees, hours or fingers) as a value row in Buruj, its sign in the flag.
@@ -29,9 +30,9 @@ float HariSH(const std::string& teks);
 float PutarSH(float x);
 
 // The rows of the years, the single years, the month and their sum in the five cells of
-// Fathu's pattern: alamah (weekday and hours), Hishshoh, Wasath, Khossyoh and Markaz.
-void SalinBarisSH(const SyamsulHilal& sh, std::span<Nilai, 5> majmu, std::span<Nilai, 5> mabsut,
-                  std::span<Nilai, 5> syahr, std::span<Nilai, 5> jumlah);
+// Fathu's pattern: alamah (weekday and hours), Hishshoh, Wasath, Khossyoh and Markaz, with the
+// treatise's split of the years and the month.
+void SalinBarisSH(const SyamsulHilal& sh, int16_t bulan, const BarisTahun& baris);
 
 // The equation rows (Khossyoh, Markaz, Hishshoh, daqa'iq), the moon's six cells, the sun's
 // first three (its place, the Bu'd and the moon's distance from it) and the five hours, as both

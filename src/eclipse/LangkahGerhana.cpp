@@ -1,5 +1,8 @@
 #include "eclipse/LangkahGerhana.h"
 
+#include "conclusions/Kesimpulan.h"
+#include "core/Sesi.h"
+#include "methods/Lembar.h"
 #include "methods/Taadil.h"
 
 namespace falak::gerhana {
@@ -17,6 +20,12 @@ Nilai alamahNol() { return AlamahTarkh(JenisAlamah, MedanAlamah{}, 1); }
 bool burujSebelumSimpul(const Nilai& v) {
     const int b = AmbilTingkat(v, MedanBuruj);
     return b == 5 || b == 11;
+}
+
+bool dekatSimpul(const Nilai& hishshoh, int batas) {
+    const int b = AmbilTingkat(hishshoh, MedanBuruj);
+    const int d = AmbilTingkat(hishshoh, MedanDarojah);
+    return ((b == 0 || b == 6 || b == 12) && d <= batas) || (burujSebelumSimpul(hishshoh) && d >= 30 - batas);
 }
 
 Nilai jamSipil(const Nilai& alamah) {
@@ -79,22 +88,73 @@ void HitungBuhtu(std::span<Nilai, 4> b, const Nilai& saah, const Nilai& khossyoh
     b[3] = kurang(b[2], b[1]);
 }
 
+void TulisKesimpulanGerhana(Konteks& k, HasilHitung& h, const FaseGerhana& f, const Nilai& tanggal,
+                            const std::string& hari, const std::string& warna) {
+    ClsKesimpulan& ks = k.kesimpulan;
+    const Sesi& s = k.sesi;
+    RingkasanGerhana& r = *h.gerhana;
+    const bool total = NilaiDesimal(JenisBusur, f.mukts) != 0.0;
+    const auto jam = [&](const Nilai& alamah, const Nilai& tempat, bool akhir) {
+        return ks.FormatJam(jamSipil(alamah), tanggal, true, tempat, f.ukuran, true, akhir);
+    };
+    const auto lama = [&](const Nilai& alamah) {
+        return ks.FormatJam(alamah, tanggal, false, {}, f.ukuran, true, false);
+    };
+    r.tanggal = tanggal;
+    r.awal = jam(f.awal, f.lintang, false);
+    r.tengah = jam(f.tengah, {}, false);
+    r.akhir = jam(f.akhir, f.lintang, true);
+    if (total) {
+        r.awalTotal = jam(f.awalTotal, {}, false);
+        r.akhirTotal = jam(f.akhirTotal, {}, false);
+    }
+    r.besar = ks.UkuranGerhana(f.ukuran);
+    r.jamTengah = jamDesimal(jamSipil(f.tengah));
+    r.ashobi = NilaiDesimal(JenisBusur, NolkanBuruj(f.ukuran));
+    h.kesimpulan = {s.namaKitab,
+                    s.labelKe(16) + hari,
+                    s.labelKe(17) + r.awal,
+                    s.labelKe(18) + r.tengah,
+                    s.labelKe(19) + r.akhir,
+                    s.labelKe(20) + lama(f.lama),
+                    s.labelKe(21) + (total ? r.awalTotal : "-"),
+                    s.labelKe(22) + (total ? r.akhirTotal : "-"),
+                    s.labelKe(23) + (total ? lama(f.lamaTotal) : "-"),
+                    s.labelKe(24) + r.besar,
+                    s.labelKe(25) + warna};
+}
+
 }  // namespace falak
 
 namespace falak {
 
-TahunTerbagi PokokFathu::hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal,
-                                const BarisPokok& baris) const {
+void PokokFathu::hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal, const BarisTahun& baris) const {
+    const int16_t bulanRun = bulan;
     if (kitab_.bulanYangDibuka) BulanDibuka(tahun, bulan);
-    return HitungPokokFR(k, kitab_, tahun, bulan, istiqbal ? "GB" : "", alamah_, baris);
+    baris.catat(bulanRun, HitungPokokFR(k, kitab_, tahun, bulan, istiqbal ? "GB" : "", alamah_, baris.pokok()));
 }
 
-std::optional<Nilai> PokokFathu::saatBertanggal(Konteks& k, const Nilai& majmu, const Nilai& mabsut,
-                                                const Nilai& syahr, const Nilai& saah, int32_t dawr,
-                                                int32_t sisaTahun) const {
+void TulisKepalaGerhana(ClsFlexGrid& g, const Sesi& s, std::string_view judul, const BarisTahun& baris) {
+    constexpr int T = ClsFlexGrid::kTanpaMedan;
+    g.FlexNama(std::string(judul) + NamaBulanArab(baris.bulan) + " سنة " +
+                   std::to_string(AmbilTingkat(s.tanggalPilihan, MedanTahun)) + " ببلد " + s.tempat.namaTampil,
+               0, 0, 39);
+    g.FlexTeks(std::to_string(baris.dawr), 3, 39);
+    g.FlexTeks(std::to_string(baris.sisaTahun), 4, 39);
+    g.FlexTeks(NamaBulanArab(baris.bulan), 5, 39);
+    int c = 37;
+    for (size_t k = 1; k <= 5; c -= 6, ++k) {
+        int b = 3;
+        for (const Baris<5>* row : {&baris.majmu, &baris.mabsut, &baris.syahr, &baris.jumlah})
+            g.FlexData((*row)(k), b++, c,
+                       k == 1 ? std::initializer_list<int>{10, 11, 12, T} : std::initializer_list<int>{1, 2, 3, T});
+    }
+}
+
+std::optional<Nilai> PokokFathu::saatBertanggal(Konteks& k, const BarisTahun& baris, const Nilai& saah) const {
     if (tanggal_ != Tanggal::Alamah) return std::nullopt;
-    const auto t = k.taadil.Taadil(majmu, mabsut, syahr, saah, dawr, sisaTahun, Nilai(kitab_.mabda[0]),
-                                   Nilai(kitab_.tambah[0]));
+    const auto t = k.taadil.Taadil(baris.majmu(1), baris.mabsut(1), baris.syahr(1), saah, baris.dawr,
+                                   baris.sisaTahun, Nilai(kitab_.mabda[0]), Nilai(kitab_.tambah[0]));
     if (t[1].kosongTeks()) return std::nullopt;
     return t[1];
 }

@@ -4,13 +4,19 @@
 #pragma once
 
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 #include <span>
+#include <string>
+#include <string_view>
 #include <utility>
 
+#include "core/FlexGrid.h"
 #include "core/FungsHisab.h"
 #include "core/Nilai.h"
+#include "methods/Baris.h"
 #include "methods/Konteks.h"
+#include "methods/Modul.h"
 #include "methods/taqribi/KerangkaTaqribi.h"
 
 namespace falak::gerhana {
@@ -24,6 +30,9 @@ Nilai kurangAlamah(const Nilai& a, const Nilai& b);
 Nilai alamahNol();
 // Buruj 5 or 11: the moon comes up to its node, where 0 and 6 have passed it.
 bool burujSebelumSimpul(const Nilai& v);
+// The moon within `batas` degrees of a node: past it (Buruj 0, 6, and 12, which the test reads
+// though a finished value never has it), or coming up to it.
+bool dekatSimpul(const Nilai& hishshoh, int batas);
 // A time of the alamah clock (hours from sunset) as the civil clock reads it.
 Nilai jamSipil(const Nilai& alamah);
 double jamDesimal(const Nilai& alamah);
@@ -31,6 +40,8 @@ double jamDesimal(const Nilai& alamah);
 }  // namespace falak::gerhana
 
 namespace falak {
+
+struct Sesi;
 
 // The constants and choices that tell one book's eclipse from another's.
 struct DataGerhana {
@@ -63,9 +74,56 @@ void HitungArdl(std::span<Nilai, 7> ardl, const Nilai& saah, const Nilai& tdlMr,
 // The moon's anomaly at the syzygy, the argument of its daily motion: 43' an hour taken off.
 void HitungBuhtu(std::span<Nilai, 4> buhtu, const Nilai& saah, const Nilai& khossyoh);
 
+// A row's first n cells down one column of a sheet, from the sheet row `awal`.
+template <size_t N>
+void TulisKolom(ClsFlexGrid& g, const Baris<N>& baris, int awal, int kolom, std::initializer_list<int> medan,
+                size_t n = N) {
+    for (size_t k = 1; k <= n; ++k) g.FlexData(baris(k), awal + static_cast<int>(k) - 1, kolom, medan);
+}
+
+// What the conclusion of an eclipse reads: the alamah times of the start, the middle and the
+// end and the length, those of the totality, the latitude whose side tells where the body is
+// first touched, the fingers, and the half totality (zero for none).
+struct FaseGerhana {
+    const Nilai &awal, &tengah, &akhir, &lama;
+    const Nilai &awalTotal, &akhirTotal, &lamaTotal;
+    const Nilai& lintang;
+    const Nilai& ukuran;
+    const Nilai& mukts;
+};
+// The eclipse's summary and the first eleven lines of its conclusion: the heading, the date line
+// `hari`, the phases in the zone of the date `tanggal`, the size and the colour `warna`.
+void TulisKesimpulanGerhana(Konteks& k, HasilHitung& h, const FaseGerhana& f, const Nilai& tanggal,
+                            const std::string& hari, const std::string& warna);
+
 }  // namespace falak
 
 namespace falak {
+
+// The rows of years and month of an eclipse skeleton (Majmu, Mabsut, Syahr and their sum
+// Jumlah) and what they were filled for: the groups of years, the single years, the month.
+struct BarisTahun {
+    Baris<5>& majmu;
+    Baris<5>& mabsut;
+    Baris<5>& syahr;
+    Baris<5>& jumlah;
+    int32_t& dawr;
+    int16_t& sisaTahun;
+    int16_t& bulan;
+
+    BarisPokok pokok() const { return {majmu.semua(), mabsut.semua(), syahr.semua(), jumlah.semua()}; }
+    void catat(int16_t bulanRun, const TahunTerbagi& t) const {
+        bulan = bulanRun;
+        dawr = t.dawr;
+        sisaTahun = t.sisa;
+    }
+};
+
+// The head of an eclipse sheet below its frame: the title (`judul`, the eclipse, before the
+// month, the run's year and the place), the groups of years, the single years and the month,
+// and the rows of years and month with their sum five cells across (the alamah by weekday and
+// hours, the rest by Buruj, degrees and minutes).
+void TulisKepalaGerhana(ClsFlexGrid& g, const Sesi& s, std::string_view judul, const BarisTahun& baris);
 
 // The rows of years and month of a book of Fathu's pattern at its eclipses: its constants,
 // those of its month reckoning or its own eclipse base, read for the month that a run of
@@ -81,12 +139,11 @@ public:
     // alamah: how the book reads its month row's alamah (with the Masehi date where it carries one).
     PokokFathu(const DataKitabFR& kitab, BacaAlamahSyahr alamah, Tanggal tanggal = Tanggal::CariHari)
         : kitab_(kitab), alamah_(std::move(alamah)), tanggal_(tanggal) {}
-    TahunTerbagi hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal, const BarisPokok& baris) const;
+    void hitung(Konteks& k, int32_t tahun, int16_t bulan, bool istiqbal, const BarisTahun& baris) const;
     // The syzygy at the markaz with its Masehi date, as the book's month reckoning dates its
     // ijtima': the date step of the tables on the alamah of the rows, less the hours to the
     // syzygy. None for a book whose alamah is a time of the week.
-    std::optional<Nilai> saatBertanggal(Konteks& k, const Nilai& majmu, const Nilai& mabsut, const Nilai& syahr,
-                                        const Nilai& saah, int32_t dawr, int32_t sisaTahun) const;
+    std::optional<Nilai> saatBertanggal(Konteks& k, const BarisTahun& baris, const Nilai& saah) const;
     const DataKitabFR& kitab() const { return kitab_; }
 
 private:

@@ -48,6 +48,26 @@ public:
     int nilai() const { return nilai_; }
     int maksimum() const { return maksimum_; }
 
+    // A batch of n runs under one bar, a step a run (jalan(i) for the i-th); the stop button
+    // ends it between two runs. False when it was stopped.
+    template <class Jalan>
+    bool jalankanBatch(int n, Jalan&& jalan) {
+        berhenti = false;
+        mulaiBatch(n);
+        batch = true;
+        bool selesai = true;
+        for (int i = 0; i < n && selesai; ++i) {
+            if (berhenti) {
+                selesai = false;
+            } else {
+                jalan(i);
+                maju();
+            }
+        }
+        batch = false;
+        return selesai;
+    }
+
     bool batch = false;                 // a batch is running
     std::atomic<bool> berhenti{false};  // the stop button asked for a stop
 

@@ -125,14 +125,8 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriMo
         }
     pilihTempat(namaTempat);
     const int32_t tahun = BulatGenap32(ValAngka(tahunTeks)).value_or(0);
-    kemajuan.berhenti = false;
-    kemajuan.mulaiBatch(static_cast<int>(runs.size()));
-    kemajuan.batch = true;
-    for (const auto& [entri, bulan] : runs) {
-        if (kemajuan.berhenti) {
-            hasil.dihentikan = true;
-            break;
-        }
+    hasil.dihentikan = !kemajuan.jalankanBatch(static_cast<int>(runs.size()), [&](int i) {
+        const auto& [entri, bulan] = runs[static_cast<size_t>(i)];
         Modul& m = *modul(*entri);
         if (keluaran == Keluaran::Lembar) {
             LembarKerja* tab = Proses(*entri, m, tahun, bulan);
@@ -144,9 +138,7 @@ Workspace::HasilBatch Workspace::batch(const std::vector<std::pair<const EntriMo
             catatAwal(*entri, tahun, bulan, h.ringkasan);
             hasil.ringkas.push_back({entri, tahun, bulan, std::move(h.kesimpulan), std::move(h.ringkasan), std::nullopt});
         }
-        kemajuan.maju();
-    }
-    kemajuan.batch = false;
+    });
     return hasil;
 }
 
@@ -270,28 +262,20 @@ Workspace::HasilBatch Workspace::cariGerhana(Garapan jenis, const std::string& k
     pilihTempat(namaTempat);
     if ((hasil.pesan = tolakLintang(jenis))) return hasil;
     const int32_t awal = BulatGenap32(ValAngka(tahunTeks)).value_or(0);
-    kemajuan.berhenti = false;
-    kemajuan.mulaiBatch(static_cast<int>(std::max(0, tahunAkhir - awal + 1) * 12));
-    kemajuan.batch = true;
-    for (int32_t tahun = awal; tahun <= tahunAkhir && !hasil.dihentikan; ++tahun) {
-        for (int bulan = 1; bulan <= 12; ++bulan) {
-            if (kemajuan.berhenti) {
-                hasil.dihentikan = true;
-                break;
-            }
-            if (keluaran == Keluaran::Lembar) {
-                if (LembarKerja* tab = Proses(*entri, *m, tahun, bulan)) hasil.lembar.push_back(tab);
-            } else {
-                siapkan(*entri, tahun, bulan);
-                HasilHitung h = m->Hitung({tahun, static_cast<int16_t>(bulan), false});
-                if (h.gerhana)
-                    hasil.ringkas.push_back({entri, tahun, bulan, std::move(h.kesimpulan), std::move(h.ringkasan),
-                                             std::move(h.gerhana)});
-            }
-            kemajuan.maju();
+    // Every month of the years, one run each.
+    hasil.dihentikan = !kemajuan.jalankanBatch(std::max(0, tahunAkhir - awal + 1) * 12, [&](int i) {
+        const int32_t tahun = awal + i / 12;
+        const int bulan = i % 12 + 1;
+        if (keluaran == Keluaran::Lembar) {
+            if (LembarKerja* tab = Proses(*entri, *m, tahun, bulan)) hasil.lembar.push_back(tab);
+        } else {
+            siapkan(*entri, tahun, bulan);
+            HasilHitung h = m->Hitung({tahun, static_cast<int16_t>(bulan), false});
+            if (h.gerhana)
+                hasil.ringkas.push_back(
+                    {entri, tahun, bulan, std::move(h.kesimpulan), std::move(h.ringkasan), std::move(h.gerhana)});
         }
-    }
-    kemajuan.batch = false;
+    });
     return hasil;
 }
 

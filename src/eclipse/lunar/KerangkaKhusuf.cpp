@@ -1,7 +1,6 @@
 #include "eclipse/lunar/KerangkaKhusuf.h"
 
 #include <string>
-#include <type_traits>
 #include <utility>
 
 #include "conclusions/Kesimpulan.h"
@@ -42,23 +41,13 @@ const Nilai& KerangkaKhusuf::khossyoh() const { return HsJumlah(static_cast<size
 KhusufPolaFathu::KhusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok)
     : KerangkaKhusuf(k, data), pokok_(std::move(pokok)) {}
 
-void KhusufPolaFathu::PokokKhusuf(int32_t tahun, int16_t bulan) {
-    HsBulan = bulan;
-    const TahunTerbagi t =
-        pokok_.hitung(k_, tahun, bulan, true, {HsMajmu.semua(), HsMabsut.semua(), HsSyahr.semua(), HsJumlah.semua()});
-    HsDawr = t.dawr;
-    HsSisaTahun = t.sisa;
-}
+void KhusufPolaFathu::PokokKhusuf(int32_t tahun, int16_t bulan) { pokok_.hitung(k_, tahun, bulan, true, barisTahun()); }
 
 std::optional<Nilai> KhusufPolaFathu::istiqbalBertanggal() {
-    return pokok_.saatBertanggal(k_, HsMajmu(1), HsMabsut(1), HsSyahr(1), HsSaah(5), HsDawr, HsSisaTahun);
+    return pokok_.saatBertanggal(k_, barisTahun(), HsSaah(5));
 }
 
-bool KerangkaKhusuf::UjiHishshoh(const Nilai& hishshoh) {
-    const int b = AmbilTingkat(hishshoh, MedanBuruj);
-    const int d = AmbilTingkat(hishshoh, MedanDarojah);
-    return ((b == 0 || b == 6 || b == 12) && d <= 12) || ((b == 5 || b == 11) && d >= 18);
-}
+bool KerangkaKhusuf::UjiHishshoh(const Nilai& hishshoh) { return dekatSimpul(hishshoh, 12); }
 
 bool KerangkaKhusuf::UjiMalam(const Nilai& awal, const Nilai& akhir) {
     // The alamah clock counts hours 13 to 23 as day.
@@ -164,17 +153,15 @@ HasilHitung KerangkaKhusuf::HitungKhusuf(int32_t tahun, int16_t bulan, bool lemb
     Kemajuan& maju = k_.kemajuan;
     HasilHitung h;
     maju.mulai(kLangkah);
+    const auto berhenti = [&] {
+        maju.penuh();
+        return h;
+    };
     PokokKhusuf(tahun, bulan);
     maju.langkah();
-    if (!UjiHishshoh(HsJumlah(2))) {
-        maju.penuh();
-        return h;
-    }
+    if (!UjiHishshoh(HsJumlah(2))) return berhenti();
     const auto awal = awalBulan(tahun, bulan);
-    if (!TahapKhusuf() || !UjiMalam(HsFase(3), HsFase(4)) || !awal) {
-        maju.penuh();
-        return h;
-    }
+    if (!TahapKhusuf() || !UjiMalam(HsFase(3), HsFase(4)) || !awal) return berhenti();
     h.gerhana.emplace();
     h.gerhana->tanggal = *awal;
     KesimpulanKhusuf(h);
@@ -191,100 +178,56 @@ HasilHitung KerangkaKhusuf::HitungKhusuf(int32_t tahun, int16_t bulan, bool lemb
 void KerangkaKhusuf::KesimpulanKhusuf(HasilHitung& h) {
     ClsKesimpulan& ks = k_.kesimpulan;
     const Sesi& s = k_.sesi;
-    RingkasanGerhana& r = *h.gerhana;
     int16_t hariHijri = 0;
     // The day from the date the middle carries, or else the day of the month on its weekday.
     Nilai tanggal = TanggalAlamah(HsIstiqbal(11));
     std::string hari;
     if (tanggal.kosongTeks()) {
-        tanggal = r.tanggal;
+        tanggal = h.gerhana->tanggal;
         hari = ks.FullGerhanB(tanggal, HsIstiqbal(11), HsIstiqbal(11), hariHijri);
     } else {
-        hari = ks.FullGerhanBTanggal(r.tanggal, tanggal, HsIstiqbal(11), hariHijri);
+        hari = ks.FullGerhanBTanggal(h.gerhana->tanggal, tanggal, HsIstiqbal(11), hariHijri);
     }
-    r.tanggal = tanggal;
-
-    const Nilai& ukuran = HsAshobi(11);
-    const bool total = NilaiDesimal(JenisBusur, HsMuktsu(11)) != 0.0;
-    const auto jam = [&](const Nilai& alamah, const Nilai& tempat, bool akhir) {
-        return ks.FormatJam(jamSipil(alamah), tanggal, true, tempat, ukuran, true, akhir);
-    };
-    const auto lama = [&](const Nilai& alamah) { return ks.FormatJam(alamah, tanggal, false, {}, ukuran, true, false); };
-    r.awal = jam(HsFase(3), HsArdl(7), false);
-    r.tengah = jam(HsFase(1), {}, false);
-    r.akhir = jam(HsFase(4), HsArdl(7), true);
-    if (total) {
-        r.awalTotal = jam(HsFaseTotal(3), {}, false);
-        r.akhirTotal = jam(HsFaseTotal(4), {}, false);
-    }
-    r.besar = ks.UkuranGerhana(ukuran);
-    r.jamTengah = jamDesimal(jamSipil(HsFase(1)));
-    r.ashobi = NilaiDesimal(JenisBusur, NolkanBuruj(ukuran));
-
-    std::vector<std::string>& b = h.kesimpulan;
-    b = {s.namaKitab,
-         s.labelKe(16) + hari,
-         s.labelKe(17) + r.awal,
-         s.labelKe(18) + r.tengah,
-         s.labelKe(19) + r.akhir,
-         s.labelKe(20) + lama(HsFase(5)),
-         s.labelKe(21) + (total ? r.awalTotal : "-"),
-         s.labelKe(22) + (total ? r.akhirTotal : "-"),
-         s.labelKe(23) + (total ? lama(HsFaseTotal(5)) : "-"),
-         s.labelKe(24) + r.besar,
-         s.labelKe(25) + ks.WarnaGerhanaM(ditutup(ukuran))};
+    const FaseGerhana fase = {.awal = HsFase(3), .tengah = HsFase(1), .akhir = HsFase(4), .lama = HsFase(5),
+                              .awalTotal = HsFaseTotal(3), .akhirTotal = HsFaseTotal(4), .lamaTotal = HsFaseTotal(5),
+                              .lintang = HsArdl(7), .ukuran = HsAshobi(11), .mukts = HsMuktsu(11)};
+    TulisKesimpulanGerhana(k_, h, fase, tanggal, hari, ks.WarnaGerhanaM(ditutup(HsAshobi(11))));
     std::string gurub, terbit;
     ks.WaktuGurub(Nilai(BurujMatahari(tanggal).value_or("")), gurub, terbit);
-    b.push_back(s.labelKe(12) + gurub);
-    b.push_back(s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat));
+    h.kesimpulan.push_back(s.labelKe(12) + gurub);
+    h.kesimpulan.push_back(s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat));
 }
 
 void KerangkaKhusuf::IsiTabelKhusuf(ClsFlexGrid& g) {
     const Sesi& s = k_.sesi;
     g.FlexSetting(58, 40, 490, 500, 2500, true);
     IsiBingkai(g, k_.koneksi.Names, std::string(data_.kode) + "GB");
-    const int tahun = AmbilTingkat(s.tanggalPilihan, MedanTahun);
-    g.FlexNama("خسوف القمر في شهر " + NamaBulanArab(HsBulan) + " سنة " + std::to_string(tahun) + " ببلد " +
-                   s.tempat.namaTampil,
-               0, 0, 39);
-    g.FlexTeks(std::to_string(HsDawr), 3, 39);
-    g.FlexTeks(std::to_string(HsSisaTahun), 4, 39);
-    g.FlexTeks(NamaBulanArab(HsBulan), 5, 39);
+    TulisKepalaGerhana(g, s, "خسوف القمر في شهر ", barisTahun());
     g.FlexTeks(s.tempat.nama, 34, 39);
 }
 
 void KerangkaKhusuf::tulisSel(ClsFlexGrid& g) {
-    constexpr int T = ClsFlexGrid::kTanpaMedan;
     const std::initializer_list<int> lima = {1, 2, 3, 4, 5};
     const std::initializer_list<int> waktu = {10, 11, 12, 13, 14};
-    int c = 37;
-    for (size_t k = 1; k <= 5; c -= 6, ++k)
-        for (auto [baris, row] : {std::pair{3, &HsMajmu}, {4, &HsMabsut}, {5, &HsSyahr}, {6, &HsJumlah}})
-            g.FlexData((*row)(k), baris, c, k == 1 ? std::initializer_list<int>{10, 11, 12, T}
-                                                    : std::initializer_list<int>{1, 2, 3, T});
-    // A row's cells down one column; of the sun's row only those its form fills.
-    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan,
-                           size_t n = std::decay_t<decltype(row)>::ukuran()) {
-        for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
-    };
-    kolom(HsQomar, 8, 37, lima);
-    kolom(HsSyams, 14, 37, lima, SelMatahari(data_) + 1);
-    kolom(HsSaah, 20, 37, lima);
-    kolom(HsIstiqbal, 25, 37, waktu);
-    kolom(HsArdl, 36, 37, lima);
-    kolom(HsBuhtu, 43, 37, lima);
-    kolom(HsFase, 47, 37, waktu);
-    kolom(HsFaseTotal, 52, 37, waktu);
-    kolom(HsTdlKs, 9, 19, lima);
-    kolom(HsTdlHs, 17, 19, lima);
-    kolom(HsTdlAr, 25, 19, lima);
-    kolom(HsTdlBuhtu, 33, 19, lima);
-    kolom(HsAshobi, 41, 19, lima);
-    kolom(HsTdlMr, 9, 9, lima);
-    kolom(HsTdlDq, 17, 9, lima);
-    kolom(HsTdlHs2, 25, 9, lima);
-    kolom(HsSaatKhusf, 33, 9, lima);
-    kolom(HsMuktsu, 47, 9, lima);
+    TulisKolom(g, HsQomar, 8, 37, lima);
+    // Of the sun's row only the cells its form fills, up to the moon's place opposite the sun.
+    TulisKolom(g, HsSyams, 14, 37, lima, SelMatahari(data_) + 1);
+    TulisKolom(g, HsSaah, 20, 37, lima);
+    TulisKolom(g, HsIstiqbal, 25, 37, waktu);
+    TulisKolom(g, HsArdl, 36, 37, lima);
+    TulisKolom(g, HsBuhtu, 43, 37, lima);
+    TulisKolom(g, HsFase, 47, 37, waktu);
+    TulisKolom(g, HsFaseTotal, 52, 37, waktu);
+    TulisKolom(g, HsTdlKs, 9, 19, lima);
+    TulisKolom(g, HsTdlHs, 17, 19, lima);
+    TulisKolom(g, HsTdlAr, 25, 19, lima);
+    TulisKolom(g, HsTdlBuhtu, 33, 19, lima);
+    TulisKolom(g, HsAshobi, 41, 19, lima);
+    TulisKolom(g, HsTdlMr, 9, 9, lima);
+    TulisKolom(g, HsTdlDq, 17, 9, lima);
+    TulisKolom(g, HsTdlHs2, 25, 9, lima);
+    TulisKolom(g, HsSaatKhusf, 33, 9, lima);
+    TulisKolom(g, HsMuktsu, 47, 9, lima);
 }
 
 std::vector<BarisTercatat> KerangkaKhusuf::baris() const {

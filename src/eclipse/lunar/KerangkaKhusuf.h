@@ -78,6 +78,7 @@ protected:
     // The full moon at the markaz with the Masehi date the book's alamah carries; none where the
     // alamah is a time of the week and the day is sought in the month by its weekday.
     virtual std::optional<Nilai> istiqbalBertanggal() { return std::nullopt; }
+    BarisTahun barisTahun() { return {HsMajmu, HsMabsut, HsSyahr, HsJumlah, HsDawr, HsSisaTahun, HsBulan}; }
 
     Konteks k_;
 

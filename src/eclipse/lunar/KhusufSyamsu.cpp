@@ -30,11 +30,8 @@ bool sebelumSimpul(float hishshoh) {
 KhusufSyamsu::KhusufSyamsu(Konteks k) : KerangkaKhusuf(k, kKhusufSyamsu), sh_(k) {}
 
 void KhusufSyamsu::PokokKhusuf(int32_t tahun, int16_t bulan) {
-    HsBulan = bulan;
     sh_.IjtimaSajaSH(tahun, bulan, true);
-    HsDawr = sh_.SHDawr;
-    HsSisaTahun = sh_.SHSisaTahun;
-    SalinBarisSH(sh_, HsMajmu.semua(), HsMabsut.semua(), HsSyahr.semua(), HsJumlah.semua());
+    SalinBarisSH(sh_, bulan, barisTahun());
 }
 
 void KhusufSyamsu::istiqbal() {

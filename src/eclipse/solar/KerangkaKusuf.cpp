@@ -1,7 +1,6 @@
 #include "eclipse/solar/KerangkaKusuf.h"
 
 #include <string>
-#include <type_traits>
 #include <utility>
 
 #include "conclusions/Kesimpulan.h"
@@ -40,23 +39,11 @@ const Nilai& KerangkaKusuf::matahari() const { return KfSyams(SelMatahari(data_)
 KusufPolaFathu::KusufPolaFathu(Konteks k, const DataGerhana& data, PokokFathu pokok)
     : KerangkaKusuf(k, data), pokok_(std::move(pokok)) {}
 
-void KusufPolaFathu::PokokKusuf(int32_t tahun, int16_t bulan) {
-    KfBulan = bulan;
-    const TahunTerbagi t =
-        pokok_.hitung(k_, tahun, bulan, false, {KfMajmu.semua(), KfMabsut.semua(), KfSyahr.semua(), KfJumlah.semua()});
-    KfDawr = t.dawr;
-    KfSisaTahun = t.sisa;
-}
+void KusufPolaFathu::PokokKusuf(int32_t tahun, int16_t bulan) { pokok_.hitung(k_, tahun, bulan, false, barisTahun()); }
 
-std::optional<Nilai> KusufPolaFathu::ijtimaBertanggal() {
-    return pokok_.saatBertanggal(k_, KfMajmu(1), KfMabsut(1), KfSyahr(1), KfSaah(5), KfDawr, KfSisaTahun);
-}
+std::optional<Nilai> KusufPolaFathu::ijtimaBertanggal() { return pokok_.saatBertanggal(k_, barisTahun(), KfSaah(5)); }
 
-bool KerangkaKusuf::UjiHishshoh(const Nilai& hishshoh) {
-    const int b = AmbilTingkat(hishshoh, MedanBuruj);
-    const int d = AmbilTingkat(hishshoh, MedanDarojah);
-    return ((b == 0 || b == 6 || b == 12) && d <= 6) || ((b == 5 || b == 11) && d >= 24);
-}
+bool KerangkaKusuf::UjiHishshoh(const Nilai& hishshoh) { return dekatSimpul(hishshoh, 6); }
 
 bool KerangkaKusuf::UjiSiang(const Nilai& ijtima) {
     const int jam = AmbilTingkat(ijtima, MedanJam);
@@ -253,83 +240,42 @@ bool KerangkaKusuf::TahapKusuf() {
 
 void KerangkaKusuf::KesimpulanKusuf(HasilHitung& h) {
     ClsKesimpulan& ks = k_.kesimpulan;
-    const Sesi& s = k_.sesi;
-    RingkasanGerhana& r = *h.gerhana;
-    Nilai tanggal = r.tanggal;
+    Nilai tanggal = h.gerhana->tanggal;
     const std::string hari = ks.FullGerhanM(tanggal, CAlamahToUmum(jamSipil(KfFase(1))));
-    const Nilai& ukuran = KfAshobi(11);
-    const bool total = NilaiDesimal(JenisBusur, KfMuktsu(11)) != 0.0;
-    const auto jam = [&](const Nilai& alamah, const Nilai& tempat, bool akhir) {
-        return ks.FormatJam(jamSipil(alamah), tanggal, true, tempat, ukuran, true, akhir);
-    };
-    const auto lama = [&](const Nilai& alamah) { return ks.FormatJam(alamah, tanggal, false, {}, ukuran, true, false); };
-    r.awal = jam(KfFase(2), KfArdlMar(3), false);
-    r.tengah = jam(KfFase(1), {}, false);
-    r.akhir = jam(KfFase(3), KfArdlMar(3), true);
-    if (total) {
-        r.awalTotal = jam(KfFaseTotal(2), {}, false);
-        r.akhirTotal = jam(KfFaseTotal(3), {}, false);
-    }
-    r.besar = ks.UkuranGerhana(ukuran);
-    r.jamTengah = jamDesimal(jamSipil(KfFase(1)));
-    r.ashobi = NilaiDesimal(JenisBusur, NolkanBuruj(ukuran));
-
-    h.kesimpulan = {s.namaKitab,
-                    s.labelKe(16) + hari,
-                    s.labelKe(17) + r.awal,
-                    s.labelKe(18) + r.tengah,
-                    s.labelKe(19) + r.akhir,
-                    s.labelKe(20) + lama(KfFase(4)),
-                    s.labelKe(21) + (total ? r.awalTotal : "-"),
-                    s.labelKe(22) + (total ? r.akhirTotal : "-"),
-                    s.labelKe(23) + (total ? lama(KfFaseTotal(4)) : "-"),
-                    s.labelKe(24) + r.besar,
-                    s.labelKe(25) + ks.WarnaGerhanaM(ukuran)};
-    h.kesimpulan.push_back(s.labelKe(15) + ClsKesimpulan::barisTempat(s.tempat));
+    const FaseGerhana fase = {.awal = KfFase(2), .tengah = KfFase(1), .akhir = KfFase(3), .lama = KfFase(4),
+                              .awalTotal = KfFaseTotal(2), .akhirTotal = KfFaseTotal(3), .lamaTotal = KfFaseTotal(4),
+                              .lintang = KfArdlMar(3), .ukuran = KfAshobi(11), .mukts = KfMuktsu(11)};
+    TulisKesimpulanGerhana(k_, h, fase, tanggal, hari, ks.WarnaGerhanaM(KfAshobi(11)));
+    h.kesimpulan.push_back(k_.sesi.labelKe(15) + ClsKesimpulan::barisTempat(k_.sesi.tempat));
 }
 
 void KerangkaKusuf::IsiTabelKusuf(ClsFlexGrid& g) {
     const Sesi& s = k_.sesi;
-    constexpr int T = ClsFlexGrid::kTanpaMedan;
     const std::initializer_list<int> lima = {1, 2, 3, 4, 5};
     const std::initializer_list<int> waktu = {10, 11, 12, 13, 14};
     g.FlexSetting(47, 40, 490, 500, 2500, true);
     IsiBingkai(g, k_.koneksi.Names, std::string(data_.kode) + "GM");
-    g.FlexNama("كسوف الشمس في آخر شهر " + NamaBulanArab(KfBulan) + " سنة " +
-                   std::to_string(AmbilTingkat(s.tanggalPilihan, MedanTahun)) + " ببلد " + s.tempat.namaTampil,
-               0, 0, 39);
-    g.FlexTeks(std::to_string(KfDawr), 3, 39);
-    g.FlexTeks(std::to_string(KfSisaTahun), 4, 39);
-    g.FlexTeks(NamaBulanArab(KfBulan), 5, 39);
-    int c = 37;
-    for (size_t k = 1; k <= 5; c -= 6, ++k)
-        for (auto [b, row] : {std::pair{3, &KfMajmu}, {4, &KfMabsut}, {5, &KfSyahr}, {6, &KfJumlah}})
-            g.FlexData((*row)(k), b, c, k == 1 ? std::initializer_list<int>{10, 11, 12, T}
-                                                : std::initializer_list<int>{1, 2, 3, T});
-    // A row's cells down one column; of the sun's row only those its form fills.
-    const auto kolom = [&](const auto& row, int awal, int kol, std::initializer_list<int> medan,
-                           size_t n = std::decay_t<decltype(row)>::ukuran()) {
-        for (size_t k = 1; k <= n; ++k) g.FlexData(row(k), awal + static_cast<int>(k) - 1, kol, medan);
-    };
-    kolom(KfQomar, 8, 37, lima);
-    kolom(KfSyams, 14, 37, lima, SelMatahari(data_));
-    kolom(KfSaah, 19, 37, lima);
-    kolom(KfIjtima, 24, 37, waktu);
-    kolom(KfArdl, 29, 37, lima);
-    kolom(KfBuhtu, 36, 37, lima);
-    kolom(KfFase, 40, 37, waktu);
-    kolom(KfFaseTotal, 42, 19, waktu);
-    kolom(KfFadlu, 8, 19, lima);
-    kolom(KfBud, 16, 19, lima);
-    kolom(KfWaktu, 20, 19, lima);
-    kolom(KfDlil, 26, 19, lima);
-    kolom(KfMail1, 32, 19, lima);
-    kolom(KfMail2, 35, 19, lima);
-    kolom(KfArdlMar, 38, 19, lima);
-    kolom(KfJumlahArdl, 41, 19, lima);
-    kolom(KfAshobi, 8, 9, lima);
-    kolom(KfSaatKusf, 21, 9, lima);
-    kolom(KfMuktsu, 34, 9, lima);
+    TulisKepalaGerhana(g, s, "كسوف الشمس في آخر شهر ", barisTahun());
+    TulisKolom(g, KfQomar, 8, 37, lima);
+    // Of the sun's row only the cells its form fills.
+    TulisKolom(g, KfSyams, 14, 37, lima, SelMatahari(data_));
+    TulisKolom(g, KfSaah, 19, 37, lima);
+    TulisKolom(g, KfIjtima, 24, 37, waktu);
+    TulisKolom(g, KfArdl, 29, 37, lima);
+    TulisKolom(g, KfBuhtu, 36, 37, lima);
+    TulisKolom(g, KfFase, 40, 37, waktu);
+    TulisKolom(g, KfFaseTotal, 42, 19, waktu);
+    TulisKolom(g, KfFadlu, 8, 19, lima);
+    TulisKolom(g, KfBud, 16, 19, lima);
+    TulisKolom(g, KfWaktu, 20, 19, lima);
+    TulisKolom(g, KfDlil, 26, 19, lima);
+    TulisKolom(g, KfMail1, 32, 19, lima);
+    TulisKolom(g, KfMail2, 35, 19, lima);
+    TulisKolom(g, KfArdlMar, 38, 19, lima);
+    TulisKolom(g, KfJumlahArdl, 41, 19, lima);
+    TulisKolom(g, KfAshobi, 8, 9, lima);
+    TulisKolom(g, KfSaatKusf, 21, 9, lima);
+    TulisKolom(g, KfMuktsu, 34, 9, lima);
 }
 
 void KerangkaKusuf::TabelKoreksiKusuf(ClsFlexGrid& g) {

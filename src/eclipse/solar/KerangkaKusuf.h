@@ -95,6 +95,7 @@ protected:
     // The ijtima' at the markaz with the Masehi date the book's alamah carries; none where the
     // alamah is a time of the week and the day is sought in the month by its weekday.
     virtual std::optional<Nilai> ijtimaBertanggal() { return std::nullopt; }
+    BarisTahun barisTahun() { return {KfMajmu, KfMabsut, KfSyahr, KfJumlah, KfDawr, KfSisaTahun, KfBulan}; }
 
     Konteks k_;
 

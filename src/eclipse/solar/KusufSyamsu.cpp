@@ -27,11 +27,8 @@ constexpr std::array<std::string_view, 3> kUkuran = {"QodruKf", "AshobiKf", "Muk
 KusufSyamsu::KusufSyamsu(Konteks k) : KerangkaKusuf(k, kKusufSyamsu), sh_(k) {}
 
 void KusufSyamsu::PokokKusuf(int32_t tahun, int16_t bulan) {
-    KfBulan = bulan;
     sh_.IjtimaSajaSH(tahun, bulan);
-    KfDawr = sh_.SHDawr;
-    KfSisaTahun = sh_.SHSisaTahun;
-    SalinBarisSH(sh_, KfMajmu.semua(), KfMabsut.semua(), KfSyahr.semua(), KfJumlah.semua());
+    SalinBarisSH(sh_, bulan, barisTahun());
 }
 
 float KusufSyamsu::titikTengah(float jam, std::span<Nilai, 6> baris) {
