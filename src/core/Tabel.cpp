@@ -1,6 +1,7 @@
 #include "core/Tabel.h"
 
 #include <algorithm>
+#include <atomic>
 #include <charconv>
 #include <limits>
 
@@ -11,6 +12,13 @@
 namespace falak {
 
 namespace {
+
+// A stamp no table has had before: a reader that kept a position for a table that has since
+// gone cannot take a new table at the same address for the old one.
+uint64_t versiBaru() {
+    static std::atomic<uint64_t> terakhir{0};
+    return ++terakhir;
+}
 
 // The line (from 1) on which position pos of the text lies.
 size_t barisDi(std::string_view isi, size_t pos) {
@@ -130,7 +138,7 @@ Tabel& Tabel::operator=(Tabel&& lain) noexcept {
     sel_ = std::move(lain.sel_);
     baris_ = lain.baris_;
     kursor_ = lain.kursor_;
-    ++versiKolom_;
+    versiKolom_ = versiBaru();
     // A short text moves its characters with it: the indexes' views would point into the old one.
     indeks_.clear();
     indeks_.resize(kolom_.size());
@@ -152,7 +160,7 @@ void Tabel::tutup() {
     kursor_ = 0;
     indeks_.clear();
     indeksBulat_.clear();
-    ++versiKolom_;
+    versiKolom_ = versiBaru();
 }
 
 void Tabel::bukaKosong(std::vector<std::string> kolom) {
@@ -161,7 +169,7 @@ void Tabel::bukaKosong(std::vector<std::string> kolom) {
     for (size_t k = 0; k < kolom_.size(); ++k) posisiKolom_.emplace(kolom_[k], k);
     indeks_.resize(kolom_.size());
     indeksBulat_.resize(kolom_.size());
-    ++versiKolom_;
+    versiKolom_ = versiBaru();
     terbuka_ = true;
 }
 

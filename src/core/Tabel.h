@@ -64,8 +64,8 @@ public:
     const std::vector<std::string>& kolom() const { return kolom_; }
     // The position of a column, or -1 when the table has no such column.
     int indeksKolom(std::string_view nama) const;
-    // Moves on whenever the columns may have changed (the table was opened anew or closed):
-    // a position found before is then to be looked up again.
+    // Changes whenever the columns may have changed (the table was opened anew or closed), to
+    // a value no table had before: a position found before is then to be looked up again.
     uint64_t versiKolom() const { return versiKolom_; }
     size_t jumlahBaris() const { return baris_; }
     // A cell; an empty text outside the table.
