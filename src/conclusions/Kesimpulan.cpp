@@ -2,8 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <cstdlib>
 #include <limits>
 
@@ -68,10 +68,21 @@ Nilai nilaiTanggal(int64_t n) {
     int64_t W = n % 7 - 1, P = n % 5 - 1;
     if (W < 1) W += 7;
     if (P < 1) P += 5;
-    char bln[8];
-    std::snprintf(bln, sizeof bln, "%02d", t.bulan);
-    return Nilai(std::to_string(t.tahun) + " " + bln + " " + std::to_string(t.hari) + " " + std::to_string(P) + " " +
-                 std::to_string(W) + " 00 00 00 00 1");
+    std::string teks;
+    teks.reserve(32);
+    auto tulis = [&teks](int64_t v) {
+        char buf[24];
+        teks.append(buf, std::to_chars(buf, buf + sizeof buf, v).ptr);
+    };
+    tulis(t.tahun);
+    teks += t.bulan >= 0 && t.bulan < 10 ? " 0" : " ";  // the month in two digits
+    tulis(t.bulan);
+    for (const int64_t v : {int64_t{t.hari}, P, W}) {
+        teks.push_back(' ');
+        tulis(v);
+    }
+    teks += " 00 00 00 00 1";
+    return Nilai(teks);
 }
 
 std::string gabung(std::initializer_list<std::string_view> bagian) {
