@@ -141,6 +141,15 @@ std::optional<int32_t> BulatGenap32(double x) {
 
 std::string CetakAngka(double x) { return cetak(x, 15, 15); }
 
+double AngkaTercetak(double x) {
+    if (!std::isfinite(x) || x == 0) return 0.0;
+    // The printing's digits are these fifteen, and reading either form of the same decimal
+    // number rounds alike.
+    char buf[64];
+    const char* akhir = std::to_chars(buf, buf + sizeof buf, x, std::chars_format::scientific, 14).ptr;
+    return bacaAngka(std::string_view(buf, static_cast<size_t>(akhir - buf)));
+}
+
 std::string CetakAngka32(float x) { return cetak(static_cast<double>(x), 7, 7); }
 
 std::string FormatTetap(double x, int desimal) {

@@ -31,6 +31,10 @@ double BulatGenap(double x);
 // "1.5E+20", "-0" printed as "0".
 std::string CetakAngka(double x);
 
+// The number that the printing of x reads back as, ValAngka(CetakAngka(x)), without the text:
+// x rounded to 15 significant digits; 0 for a NaN or an infinity, which print as no number.
+double AngkaTercetak(double x);
+
 // A 32-bit float in its shortest form with at most 7 significant digits ("6.189863E+14").
 std::string CetakAngka32(float x);
 

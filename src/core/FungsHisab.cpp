@@ -37,8 +37,10 @@ int64_t lewatTeks(float x) {
 
 // A signed number read back from its printed magnitude: "-" for a minus flag.
 double angkaBertanda(const Nilai& v, bool minus) {
-    const std::string teks = (minus ? "-" : "") + CetakAngka(NilaiDesimal(3, v));
-    return ValAngka(teks);
+    const double besar = NilaiDesimal(3, v);
+    if (!std::isfinite(besar)) return 0.0;  // "-Inf" reads as no number
+    const double x = AngkaTercetak(besar);
+    return minus ? -x : x;
 }
 
 // The flag of a trigonometric result: forced plus, else by the sign of y.
