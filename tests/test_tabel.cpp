@@ -124,6 +124,24 @@ TEST(CariTabel, MovedTableStillFindsItsRows) {
     EXPECT_FALSE(a.terbuka());
 }
 
+TEST(CariTabel, WholeNumberKeyMatchesOnlyACellPrintedAsIt) {
+    // Keys close together and keys far apart are searched differently; both ways alike.
+    Tabel rapat = dariCsv("Cari\n05\n7\n5\n5\n-0\n");
+    ASSERT_TRUE(rapat.cari("Cari", int64_t{5}));
+    EXPECT_EQ(rapat.kursor(), 2u);
+    EXPECT_FALSE(rapat.cari("Cari", int64_t{0}));
+    EXPECT_FALSE(rapat.cari("Cari", int64_t{6}));
+    EXPECT_TRUE(rapat.eof());
+    rapat.ubahSel(0, 0, "5");
+    ASSERT_TRUE(rapat.cari("Cari", int64_t{5}));
+    EXPECT_EQ(rapat.kursor(), 0u);
+    Tabel jarang = dariCsv("Cari\n05\n9000000000\n5\n");
+    ASSERT_TRUE(jarang.cari("Cari", int64_t{5}));
+    EXPECT_EQ(jarang.kursor(), 2u);
+    ASSERT_TRUE(jarang.cari("Cari", int64_t{9000000000}));
+    EXPECT_EQ(jarang.kursor(), 1u);
+}
+
 TEST(CariTabel, ColumnNamedOnceFollowsTheTableWhenItIsOpenedAnew) {
     Tabel t = dariCsv("Cari,v\n7,x\n");
     const KolomTabel kunci{"Cari"}, isi{"v"}, hilang{"w"};

@@ -96,10 +96,12 @@ int TandaTerbesar(int jenis, const Nilai& a, const Nilai& b) {
 }
 
 Hasil DesimalKeNilai(int /*jenis*/, int tanda, int modus, float x, int tandaNilai) {
+    // A whole number already: rounding it is only the test that it fits 32 bits.
     const double lantai = std::floor(static_cast<double>(x));
-    const auto utuh = BulatGenap32(lantai);
-    if (!utuh) return std::nullopt;
-    const float b = static_cast<float>(*utuh / 30);
+    if (!(lantai >= std::numeric_limits<int32_t>::min() && lantai <= std::numeric_limits<int32_t>::max()))
+        return std::nullopt;
+    const auto utuh = static_cast<int32_t>(lantai);
+    const float b = static_cast<float>(utuh / 30);
     const float r = static_cast<float>(static_cast<double>(x) - static_cast<double>(b) * 30.0);
     const float d = std::floor(r);
     const float q = static_cast<float>((static_cast<double>(r) - d) * 60.0);

@@ -1,5 +1,6 @@
 #include "core/Tabel.h"
 
+#include <algorithm>
 #include <charconv>
 #include <limits>
 
@@ -133,6 +134,8 @@ Tabel& Tabel::operator=(Tabel&& lain) noexcept {
     // A short text moves its characters with it: the indexes' views would point into the old one.
     indeks_.clear();
     indeks_.resize(kolom_.size());
+    indeksBulat_.clear();
+    indeksBulat_.resize(kolom_.size());
     lain.tutup();
     return *this;
 }
@@ -148,6 +151,7 @@ void Tabel::tutup() {
     baris_ = 0;
     kursor_ = 0;
     indeks_.clear();
+    indeksBulat_.clear();
     ++versiKolom_;
 }
 
@@ -156,6 +160,7 @@ void Tabel::bukaKosong(std::vector<std::string> kolom) {
     kolom_ = std::move(kolom);
     for (size_t k = 0; k < kolom_.size(); ++k) posisiKolom_.emplace(kolom_[k], k);
     indeks_.resize(kolom_.size());
+    indeksBulat_.resize(kolom_.size());
     ++versiKolom_;
     terbuka_ = true;
 }
@@ -269,8 +274,37 @@ const Tabel::Indeks& Tabel::indeks(size_t kolom) {
     return *slot;
 }
 
+const Tabel::IndeksBulat& Tabel::indeksBulat(size_t kolom) {
+    auto& slot = indeksBulat_[kolom];
+    if (slot) return *slot;
+    slot = std::make_unique<IndeksBulat>();
+    // Only a cell printed exactly as the search prints its key can match it ("05" is not 5).
+    std::vector<std::pair<int64_t, uint32_t>> kunci;
+    for (size_t b = 0; b < baris_; ++b) {
+        const std::string_view s = sel(b, kolom);
+        int64_t v = 0;
+        const auto [akhir, ec] = std::from_chars(s.data(), s.data() + s.size(), v);
+        if (ec != std::errc() || akhir != s.data() + s.size()) continue;
+        char buf[24];
+        const auto cetak = std::to_chars(buf, buf + sizeof buf, v).ptr;
+        if (std::string_view(buf, static_cast<size_t>(cetak - buf)) == s) kunci.emplace_back(v, static_cast<uint32_t>(b));
+    }
+    if (kunci.empty()) return *slot;
+    const auto [kecil, besar] = std::ranges::minmax_element(kunci, {}, &std::pair<int64_t, uint32_t>::first);
+    const uint64_t rentang = static_cast<uint64_t>(besar->first) - static_cast<uint64_t>(kecil->first);
+    if (rentang > 4 * uint64_t{baris_} + 64) return *slot;
+    slot->terkecil = kecil->first;
+    slot->baris.assign(static_cast<size_t>(rentang) + 1, -1);
+    for (const auto& [v, b] : kunci) {
+        int32_t& r = slot->baris[static_cast<size_t>(static_cast<uint64_t>(v) - static_cast<uint64_t>(slot->terkecil))];
+        if (r < 0) r = static_cast<int32_t>(b);  // the first row of a repeated key, as the forward search finds it
+    }
+    return *slot;
+}
+
 void Tabel::lupakanIndeks() {
     for (auto& i : indeks_) i.reset();
+    for (auto& i : indeksBulat_) i.reset();
 }
 
 bool Tabel::cari(std::string_view kolom, std::string_view kunci) { return cari(indeksKolom(kolom), kunci); }
@@ -288,6 +322,16 @@ bool Tabel::cari(int kolom, std::string_view kunci) {
 }
 
 bool Tabel::cari(int kolom, int64_t kunci) {
+    if (kolom >= 0 && static_cast<size_t>(kolom) < kolom_.size()) {
+        const IndeksBulat& idx = indeksBulat(static_cast<size_t>(kolom));
+        if (!idx.baris.empty()) {
+            kursor_ = baris_;
+            const uint64_t i = static_cast<uint64_t>(kunci) - static_cast<uint64_t>(idx.terkecil);
+            if (kunci < idx.terkecil || i >= idx.baris.size() || idx.baris[static_cast<size_t>(i)] < 0) return false;
+            kursor_ = static_cast<size_t>(idx.baris[static_cast<size_t>(i)]);
+            return true;
+        }
+    }
     char buf[24];
     const auto [akhir, ec] = std::to_chars(buf, buf + sizeof buf, kunci);
     (void)ec;

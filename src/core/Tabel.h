@@ -8,7 +8,8 @@
 // all its readers, so that a worked look-up can read on in the row that an earlier step found.
 //
 // Searches do not scan: each searched column gets, at its first search, an index from cell
-// text to the first row that holds it.
+// text to the first row that holds it; a column of whole-number keys close together (degrees,
+// hours, days) gets for the whole-number search a plain array by key instead.
 //
 // The file format: UTF-8 CSV (a byte-order mark is skipped), a header of the column names,
 // LF or CRLF line ends, quotes only around a field that holds a comma, a quote or a line break,
@@ -107,8 +108,15 @@ private:
         size_t operator()(std::string_view s) const { return std::hash<std::string_view>{}(s); }
     };
     using Indeks = std::unordered_map<std::string_view, uint32_t>;
+    // The rows of the whole-number keys: baris[k - terkecil] is the first row whose cell
+    // prints as k, -1 where there is none. Empty when the keys are too far apart.
+    struct IndeksBulat {
+        int64_t terkecil = 0;
+        std::vector<int32_t> baris;
+    };
 
     const Indeks& indeks(size_t kolom);
+    const IndeksBulat& indeksBulat(size_t kolom);
     void lupakanIndeks();
     Sel simpan(std::string_view isi);
 
@@ -122,6 +130,7 @@ private:
     size_t kursor_ = 0;
     uint64_t versiKolom_ = 0;
     std::vector<std::unique_ptr<Indeks>> indeks_;  // per column, made at its first search
+    std::vector<std::unique_ptr<IndeksBulat>> indeksBulat_;  // the same for whole-number keys
 };
 
 // A column that a reader names once and reads by position: the name is looked up at the first

@@ -1,6 +1,5 @@
 #include "core/Waktu.h"
 
-#include <cstdio>
 #include <cstdlib>
 
 #include "core/Angka.h"
@@ -29,11 +28,22 @@ std::optional<Waktu> Waktu::baca(std::string_view teks) {
 int64_t Waktu::hariIni() const { return std::llabs(detik_ % kSehari); }
 
 std::string Waktu::format(std::string_view pola) const {
-    char buf[16];
-    if (pola == "hh.mm.ss") std::snprintf(buf, sizeof buf, "%02d.%02d.%02d", jam(), menit(), detikIni());
-    else if (pola == "hh:mm:ss") std::snprintf(buf, sizeof buf, "%02d:%02d:%02d", jam(), menit(), detikIni());
-    else std::snprintf(buf, sizeof buf, "%02d.%02d", jam(), menit());
-    return buf;
+    // Hours, minutes and seconds of the day are each below a hundred: two digits apiece.
+    std::string out;
+    auto dua = [&out](int n) {
+        out.push_back(static_cast<char>('0' + n / 10));
+        out.push_back(static_cast<char>('0' + n % 10));
+    };
+    const bool detik = pola == "hh.mm.ss" || pola == "hh:mm:ss";
+    const char pemisah = pola == "hh:mm:ss" ? ':' : '.';
+    dua(jam());
+    out.push_back(pemisah);
+    dua(menit());
+    if (detik) {
+        out.push_back(pemisah);
+        dua(detikIni());
+    }
+    return out;
 }
 
 }  // namespace falak
