@@ -6,7 +6,7 @@ namespace falak {
 
 namespace {
 
-const DataGerhana kIttifaqDzatilBain = {"IDB1", 112, 46, 3, 4, 5, 4};
+const DataGerhana kIttifaqDzatilBain = {"IDB1", 112, 46, 3, 4, 5, 6};
 
 PokokFathu pokok(Konteks k) {
     return PokokFathu(IttifaqDzatilBain(k).data(), AlamahSyahrMasehi, PokokFathu::Tanggal::Alamah);

@@ -6,7 +6,7 @@ namespace falak {
 
 namespace {
 
-const DataGerhana kTadzkirotulIkhwan = {"TZ", 110, 24, 3, 4, 5, 6};
+const DataGerhana kTadzkirotulIkhwan = {"TZ", 110, 24, 3, 4, 5, 4};
 
 PokokFathu pokok(Konteks k) { return PokokFathu(TadzkirotulIkhwan(k).data(), AlamahSyahrFR); }
 

@@ -51,7 +51,10 @@ struct DataGerhana {
     // (wasath 0: the sun's place is Markaz plus auj); Fathu's pattern keeps alamah, Hishshoh,
     // Wasath, Khossyoh and Markaz, and its sun's place starts from the Wasath.
     int wasath, khossyoh, markaz;
-    int kodeTdlHs;  // table of the hours per degree: 4, or 6 with seconds
+    // Table of the hours per degree in the lunar reckoning: 4, or 6 with seconds. A book's
+    // eclipse reads its own, not always the one its month reckoning reads; every solar
+    // reckoning reads 4.
+    int kodeTdlHsKhusuf;
 };
 
 // The moon's correction: the two equations, their sum, five minutes of it, and that with the

@@ -63,7 +63,7 @@ void KerangkaKhusuf::TaadilKhusuf() {
     t.TaadilBaris(HsTdlKs.semua(), 1, khossyoh(), 1, false);
     t.TaadilBaris(HsTdlMr.semua(), 2, HsJumlah(static_cast<size_t>(data_.markaz)), 1, false);
     t.TaadilBaris(HsTdlAr.semua(), 3, HsJumlah(2), 1, false);
-    t.TaadilBaris(HsTdlHs.semua(), data_.kodeTdlHs, khossyoh(), 5, false);
+    t.TaadilBaris(HsTdlHs.semua(), data_.kodeTdlHsKhusuf, khossyoh(), 5, false);
 }
 
 void KerangkaKhusuf::QomarKhusuf() {

@@ -54,7 +54,7 @@ void KerangkaKusuf::TaadilKusuf() {
     ClsTaadil& t = k_.taadil;
     t.TaadilBaris(KfTdlKs.semua(), 1, khossyoh(), 1, false);
     t.TaadilBaris(KfTdlMr.semua(), 2, KfJumlah(static_cast<size_t>(data_.markaz)), 1, false);
-    t.TaadilBaris(KfTdlHs.semua(), data_.kodeTdlHs, khossyoh(), 5, false);
+    t.TaadilBaris(KfTdlHs.semua(), 4, khossyoh(), 5, false);
 }
 
 void KerangkaKusuf::QomarKusuf() {
