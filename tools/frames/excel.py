@@ -42,10 +42,25 @@ def rentang(b1, k1, b2=None, k2=None):
     return f"{kolom(k1)}{b1 + 1}:{kolom(k2)}{b2 + 1}"
 
 
+class Garis(list):
+    """The lines of a sheet, "RANGE|SIDES" each; garis(range, sides) draws one."""
+
+    def __call__(self, r, sisi):
+        self.append(f"{r}|{sisi}")
+
+
 def kotakBlok(garis, b1, k1, b2, k2):
     """A worked block: a box around it and a line under its heading row."""
     garis(rentang(b1, k1, b2, k2), KOTAK)
     garis(rentang(b1, k1, b1, k2), BAWAH + LUAR)
+
+
+def blokAtas(garis, k1, k2):
+    """The top block of a month's sheet (rows 1 to 6, columns k1 to k2): the groups of the
+    years, the month and the sum, with lines under the field headings and over the sum."""
+    garis(rentang(1, k1, 6, k2), KOTAK)
+    garis(rentang(2, k1, 2, k2), BAWAH + LUAR)
+    garis(rentang(6, k1, 6, k2), ATAS + LUAR)
 
 
 def taqribi(baris_kanan, kelompok=5, latitude=True, waktu=False, tempat=()):
@@ -55,17 +70,10 @@ def taqribi(baris_kanan, kelompok=5, latitude=True, waktu=False, tempat=()):
     of the top block (5, or 4 without the Hishshoh); latitude: whether the look-up of the moon's
     latitude stands in the middle; waktu: whether the block of the hilal's time follows at row 31;
     tempat: the rows whose rightmost column holds the place or a sign beside its label."""
-    merge, clear, lines = [], [], []
-
-    def garis(r, sisi):
-        lines.append(f"{r}|{sisi}")
-
-    # The top block: the groups of the years, the month and the sum; lines under the field
-    # headings and over the sum.
+    merge, clear, garis = [], [], Garis()
+    # The top block, as wide as its groups.
     kiri = 33 - 6 * (kelompok - 1)
-    garis(rentang(1, kiri, 6, 39), KOTAK)
-    garis(rentang(2, kiri, 2, 39), BAWAH + LUAR)
-    garis(rentang(6, kiri, 6, 39), ATAS + LUAR)
+    blokAtas(garis, kiri, 39)
     # The right block: the field headings at row 7, then one row a step.
     akhir = 7 + baris_kanan
     kotakBlok(garis, 7, 29, akhir, 39)
@@ -85,35 +93,25 @@ def taqribi(baris_kanan, kelompok=5, latitude=True, waktu=False, tempat=()):
     # The mansion's name is written in three cells so that the screen shows it whichever of them
     # it draws; the merged cell keeps the leftmost, the copies go first.
     clear.append(rentang(29, 8, 29, 9))
-    return merge, clear, lines
+    return merge, clear, garis
 
 
 def syamsul_hilal():
     """The sheet of 19 by 12 drawn by frames.syamsul_hilal: its labels are merged already."""
-    lines = []
-
-    def garis(r, sisi):
-        lines.append(f"{r}|{sisi}")
-
-    garis(rentang(1, 4, 6, 11), KOTAK)
-    garis(rentang(2, 4, 2, 11), BAWAH + LUAR)
-    garis(rentang(6, 4, 6, 11), ATAS + LUAR)
+    garis = Garis()
+    blokAtas(garis, 4, 11)
     kotakBlok(garis, 7, 9, 18, 11)
     kotakBlok(garis, 7, 4, 12, 7)
     kotakBlok(garis, 13, 4, 18, 7)
     kotakBlok(garis, 7, 0, 17, 2)
-    return [], [], lines
+    return [], [], garis
 
 
 def tahqiqi(hasil):
     """The sheets of 48 by 51 drawn by frames.tahqiqi: the rows of six cells at the top, then
     the luminaries and the ijtima' at the right, the worked look-ups in the middle and the
     hilal's `hasil` values at the left."""
-    lines = []
-
-    def garis(r, sisi):
-        lines.append(f"{r}|{sisi}")
-
+    garis = Garis()
     garis(rentang(1, 1, 12, 50), KOTAK)
     garis(rentang(2, 1, 2, 50), BAWAH + LUAR)
     garis(rentang(7, 1, 7, 50), ATAS + LUAR)
@@ -122,21 +120,17 @@ def tahqiqi(hasil):
     for b in range(5):
         kotakBlok(garis, 14 + 6 * b, 25, 19 + 6 * b, 37)
     garis(rentang(15, 11, 14 + hasil, 23), KOTAK)
-    return [], [], lines
+    return [], [], garis
 
 
 def ephemeris():
     """The sheet of 106 by 12 drawn by frames.ephemeris: the hourly table under its two rows of
     headings, then the reckoning under its own; its labels are merged already."""
-    lines = []
-
-    def garis(r, sisi):
-        lines.append(f"{r}|{sisi}")
-
+    garis = Garis()
     garis(rentang(1, 0, 53, 11), KOTAK)
     garis(rentang(3, 0, 3, 11), BAWAH + LUAR)
     kotakBlok(garis, 55, 0, 105, 11)
-    return [], [], lines
+    return [], [], garis
 
 
 def khusuf():
@@ -144,14 +138,8 @@ def khusuf():
     top block of the month's sheets, the right block of steps (rows 8 to 56, the place beside
     row 34), the look-ups of five lines in the middle and at the left, and the double look-ups
     of eleven (the fingers in the middle, the half durations at the left)."""
-    merge, lines = [], []
-
-    def garis(r, sisi):
-        lines.append(f"{r}|{sisi}")
-
-    garis(rentang(1, 9, 6, 39), KOTAK)
-    garis(rentang(2, 9, 2, 39), BAWAH + LUAR)
-    garis(rentang(6, 9, 6, 39), ATAS + LUAR)
+    merge, garis = [], Garis()
+    blokAtas(garis, 9, 39)
     kotakBlok(garis, 7, 29, 56, 39)
     for b in (8, 16, 24, 32):
         kotakBlok(garis, b, 11, b + 5, 27)
@@ -161,7 +149,7 @@ def khusuf():
     kotakBlok(garis, 32, 1, 43, 10)
     kotakBlok(garis, 46, 1, 57, 10)
     merge += [rentang(b, 38, b, 39) for b in range(8, 57) if b != 34]
-    return merge, [], lines
+    return merge, [], garis
 
 
 def kusuf():
@@ -169,37 +157,27 @@ def kusuf():
     top block, the right block of steps (rows 8 to 43), the place's rows in the middle (8 to 45)
     and the three double look-ups at the left (13 rows each from row 8), all under the field
     headings of row 7."""
-    merge, lines = [], []
-
-    def garis(r, sisi):
-        lines.append(f"{r}|{sisi}")
-
-    garis(rentang(1, 9, 6, 39), KOTAK)
-    garis(rentang(2, 9, 2, 39), BAWAH + LUAR)
-    garis(rentang(6, 9, 6, 39), ATAS + LUAR)
+    merge, garis = [], Garis()
+    blokAtas(garis, 9, 39)
     kotakBlok(garis, 7, 29, 43, 39)
     kotakBlok(garis, 7, 11, 45, 27)
     kotakBlok(garis, 7, 1, 46, 10)
     for b in (21, 34):
         garis(rentang(b, 1, b, 10), ATAS + LUAR)
     merge += [rentang(b, 38, b, 39) for b in range(8, 44)]
-    return merge, [], lines
+    return merge, [], garis
 
 
 def tadil_kusuf():
     """The look-ups of the solar eclipse, a sheet of 18 by 41 (frames.koreksi_kusuf): one row a
     look-up under the headings of row 1, its five lines side by side, eight columns each, from
     the right (columns 33-39 the entry)."""
-    lines = []
-
-    def garis(r, sisi):
-        lines.append(f"{r}|{sisi}")
-
+    garis = Garis()
     garis(rentang(1, 1, 17, 40), KOTAK)
     garis(rentang(1, 1, 1, 40), BAWAH + LUAR)
     for i in range(5):
         garis(rentang(1, 33 - 8 * i, 17, 39 - 8 * i), KOTAK)
-    return [], [], lines
+    return [], [], garis
 
 
 # The books whose eclipses are worked on the taqribi skeleton: their sheets share its layout.
